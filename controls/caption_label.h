@@ -1,0 +1,66 @@
+// A label whose caption is always plain text and always fits its place.
+#pragma once
+
+#include "model/colour.h"
+
+#include <QLabel>
+
+namespace ksm {
+
+/// Shows a caption in one line. A caption wider than the label is drawn in the condensed face, up
+/// to two pixels smaller, and with an ellipsis where that is too wide as well; the whole of it is
+/// then the tooltip. `text()` stays the whole caption in every case.
+///
+/// Vertical alignment: `AlignTop` and `AlignVCenter` place the letters as usual; `AlignBottom` puts
+/// the base line onto the lower edge, so that figures of any size stand on one line.
+class CaptionLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit CaptionLabel(QWidget* parent);
+    CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent);
+
+    /// Writes only a caption that differs.
+    void SetCaption(const QString& caption);
+    void SetColours(const ColourPair& colours);
+    void SetColours(const QColor& back, const QColor& text);
+    void SetBackColour(const QColor& back);
+    /// What assistive technology says before the caption: "Influence, Player 3".
+    void SetHeading(const QString& heading);
+
+    /// Lets the mouse, and Space or Return after Tab, click the label.
+    void MakeClickable();
+    /// Does what Space or Return does: clicks a clickable label.
+    virtual void Activate();
+
+    /// The caption as it is drawn.
+    QString ShownText() const;
+
+signals:
+    void Clicked();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Fit() const;
+    void PaintFocus(QPainter& painter) const;
+    QPointF BaseLineStart(const QFontMetricsF& metrics) const;
+
+    bool clickable = false;
+    bool pressed = false;
+    // What fits the label at this width; found when first needed after a change.
+    mutable int fittedWidth = -1;
+    mutable QString shownText;
+    mutable QFont shownFont;
+    mutable double shownWidth = 0;
+};
+
+} // namespace ksm

@@ -1,0 +1,133 @@
+#include "controls/choice_box.h"
+
+#include "controls/look.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyle>
+
+namespace ksm {
+
+ChoiceBox::ChoiceBox(const QString& objectName, const QString& caption, const QStringList& entries,
+                     QWidget* parent)
+    : QComboBox(parent), emptyCaption(caption) {
+    setObjectName(objectName);
+    setInsertPolicy(NoInsert);
+    TakeLineEdit();
+    // Not a shared model: setting one makes the whole drop-down list at once.
+    addItems(entries);
+    // A combo box would take a typed text that equals an entry for a choice.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
+    lineEdit()->installEventFilter(this);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &ChoiceBox::FitText);
+    connect(this, &QComboBox::activated, this, &ChoiceBox::Chosen);
+    ShowChoice(-1);
+}
+
+void ChoiceBox::TakeLineEdit() {
+    auto* edit = new QLineEdit(this);
+    // A combo box makes a completer, which costs more than itself, for an edit that has none.
+    QCompleter none;
+    edit->setCompleter(&none);
+    setLineEdit(edit);
+    setCompleter(nullptr);
+}
+
+void ChoiceBox::ShowChoice(int index) {
+    setCurrentIndex(index);
+    setEditText(index >= 0 ? itemText(index) : emptyCaption);
+    lineEdit()->setCursorPosition(0);
+}
+
+void ChoiceBox::SetHeading(const QString& heading) {
+    setAccessibleName(heading);
+    lineEdit()->setAccessibleName(heading);
+}
+
+void ChoiceBox::FitText(const QString& text) {
+    if (!isVisible()) {
+        return; // its place may change until it is shown
+    }
+    // A line edit keeps two pixels on either side and one for the caret.
+    const int room = lineEdit()->width() - 5;
+    QFont fitting = font();
+    if (QFontMetrics(fitting).horizontalAdvance(text) > room) {
+        fitting = NarrowFont(fitting.pixelSize());
+        constexpr int SmallestText = 8;
+        while (fitting.pixelSize() > SmallestText &&
+               QFontMetrics(fitting).horizontalAdvance(text) > room) {
+            fitting.setPixelSize(fitting.pixelSize() - 1);
+        }
+    }
+    if (lineEdit()->font() != fitting) {
+        lineEdit()->setFont(fitting);
+    }
+}
+
+bool ChoiceBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cut)) {
+        // The main menu's Ctrl+X comes before the line edit's Cut.
+        event->ignore();
+        return false;
+    }
+    return QComboBox::event(event);
+}
+
+void ChoiceBox::focusOutEvent(QFocusEvent* event) {
+    QComboBox::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason) {
+        ShowChoice(currentIndex());
+    }
+}
+
+void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        showPopup();
+        break;
+    default:
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
+    // The style gives the text its place again and again.
+    if (watched == lineEdit() && event->type() == QEvent::Resize) {
+        PlaceText();
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void ChoiceBox::PlaceText() {
+    // In a narrow box a name needs the room between frame and arrow more than a line between them.
+    constexpr int ArrowWidth = 15;
+    constexpr int NarrowBox = 70;
+    if (width() < NarrowBox) {
+        lineEdit()->setGeometry(1, 2, width() - 1 - ArrowWidth, height() - 4);
+    }
+    FitText(currentText());
+}
+
+void ChoiceBox::showEvent(QShowEvent* event) {
+    QComboBox::showEvent(event);
+    FitText(currentText());
+}
+
+void ChoiceBox::showPopup() {
+    view()->setAccessibleName(accessibleName());
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
+    QComboBox::showPopup();
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+} // namespace ksm

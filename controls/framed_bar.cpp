@@ -1,0 +1,36 @@
+#include "controls/framed_bar.h"
+
+#include <QPainter>
+
+namespace ksm {
+
+FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* parent)
+    : QScrollBar(Qt::Vertical, parent) {
+    setObjectName(objectName);
+    setGeometry(place);
+    setFocusPolicy(Qt::TabFocus);
+    // Both steps of one, so that the wheel too goes step by step.
+    setSingleStep(1);
+    setPageStep(1);
+}
+
+void FramedBar::SetRange(int minimum, int maximum, int value) {
+    setRange(minimum, maximum);
+    setValue(value);
+}
+
+QColor FramedBar::FrameColour() const {
+    return hasFocus() ? palette().color(QPalette::Highlight)
+                      : palette().color(QPalette::Window).darker(150);
+}
+
+void FramedBar::paintEvent(QPaintEvent* event) {
+    QScrollBar::paintEvent(event);
+    QPainter painter(this);
+    // Half a pixel inwards, which keeps the line on whole pixels at any scale.
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(FrameColour());
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+} // namespace ksm

@@ -1,0 +1,92 @@
+#include "controls/look.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace ksm {
+
+namespace {
+
+constexpr QColor ButtonFace{239, 239, 239};
+
+QPalette LightPalette() {
+    QPalette palette(ButtonFace);
+    palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor(150, 150, 150));
+    }
+    return palette;
+}
+
+/// The first of the families that is installed. A font that names several has them all looked up
+/// again for each size and weight.
+QString Installed(const QStringList& families) {
+    const QStringList installed = QFontDatabase::families();
+    const auto found = std::ranges::find_if(
+        families, [&](const QString& family) { return installed.contains(family); });
+    return found == families.end() ? families.back() : *found;
+}
+
+QFont Font(const QString& family, int pixels, QFont::Weight weight) {
+    QFont font(family);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
+}
+
+// The original faces first, then the substitutes with the same widths.
+
+const QString& Sans() {
+    static const QString family = Installed({"MS Sans Serif", "Arial", "Liberation Sans"});
+    return family;
+}
+
+const QString& Narrow() {
+    static const QString family = Installed({"Arial Narrow", "Liberation Sans Narrow"});
+    return family;
+}
+
+const QString& Comic() {
+    static const QString family = Installed({"Comic Sans MS", "Comic Neue"});
+    return family;
+}
+
+} // namespace
+
+void ApplyLook(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create("fusion"));
+    QApplication::setPalette(LightPalette());
+    QApplication::setFont(PlainFont());
+    application.setEffectEnabled(Qt::UI_AnimateMenu, false);
+}
+
+QFont PlainFont(int pixels) {
+    return Font(Sans(), pixels, QFont::Normal);
+}
+
+QFont BoldFont(int pixels) {
+    return Font(Sans(), pixels, QFont::Bold);
+}
+
+QFont NarrowFont(int pixels) {
+    return Font(Narrow(), pixels, QFont::Normal);
+}
+
+QFont ComicFont(int pixels) {
+    return Font(Comic(), pixels, QFont::Bold);
+}
+
+QString ElementName(const char* array, int index) {
+    return QString("%1(%2)").arg(QLatin1StringView(array)).arg(index);
+}
+
+} // namespace ksm

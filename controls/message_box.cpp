@@ -1,0 +1,18 @@
+#include "controls/message_box.h"
+
+#include <QTextDocument>
+
+namespace ksm {
+
+void ShowMessage(QMessageBox::Icon icon, const QString& title, const QString& text,
+                 const QString& reason, QWidget* parent) {
+    QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    // The label of the reason has a format of its own; what a file holds may look like markup.
+    if (!reason.isEmpty()) {
+        box.setInformativeText(Qt::convertFromPlainText(reason));
+    }
+    box.exec();
+}
+
+} // namespace ksm

@@ -1,0 +1,33 @@
+// A small upright scroll bar that is used as a spinner.
+#pragma once
+
+#include "controls/framed_bar.h"
+
+namespace ksm {
+
+/// Two arrows and no room for a thumb: one step for a click, a wheel notch or an arrow key; a held
+/// mouse button repeats. Each half of the bar is one button; the arrow of a direction in which the
+/// range ends is grey.
+class SpinBar : public FramedBar {
+    Q_OBJECT
+
+public:
+    SpinBar(const QString& objectName, const QRect& place, QWidget* parent);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    /// The step that a button at this place stands for.
+    SliderAction StepAt(QPoint place) const;
+    void Hold(SliderAction action);
+    void PaintHalf(QPainter& painter, SliderAction action) const;
+
+    SliderAction pressed = SliderNoAction; ///< the button under the mouse button
+};
+
+} // namespace ksm
