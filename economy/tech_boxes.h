@@ -1,0 +1,12 @@
+// Which technology boxes can be ticked.
+#pragma once
+
+#include "model/game_state.h"
+
+namespace ksm {
+
+/// Applied whenever the player's Enviro Comp. box changes. A box that is ticked stays enabled, and
+/// nothing here ticks or clears a box.
+void UpdateTechBoxes(PlayerControls& controls);
+
+} // namespace ksm

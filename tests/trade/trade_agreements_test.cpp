@@ -1,0 +1,124 @@
+#include "economy/value_update.h"
+#include "trade/trade_agreements.h"
+#include "trade/trade_laws.h"
+
+#include <gtest/gtest.h>
+
+namespace ksm {
+namespace {
+
+/// Ten players whose names are "P1" to "P10".
+GameState NamedPlayers() {
+    GameState state;
+    for (int player = 1; player <= MaxPlayers; ++player)
+        state.Player(player).Name = std::string("P").append(std::to_string(player));
+    return state;
+}
+
+enum Click : int { Add = -1, Remove = -2, Tres = -3, TStop = -4 };
+
+TradeOutcome Do(GameState& state, int click) {
+    TradeOutcome outcome;
+    if (click == Add) {
+        AddTAbutton_Click(state);
+    } else if (click == Remove) {
+        RemoveTAButton_Click(state);
+    } else {
+        outcome = click == Tres    ? Tres_Click(state)
+                  : click == TStop ? TStop_Click(state)
+                                   : TradePlayer_Click(state, click);
+    }
+    UpdateValues(state);
+    return outcome;
+}
+
+// After the clicks: the message, the state of the selection, who trades (as made) and what the last
+// click asks of the window.
+struct ClickCase {
+    std::vector<int> Clicks;
+    std::string Info;
+    TradeMode Mode;
+    std::vector<std::pair<int, int>> Agreements = {};
+    TradeOutcome Last = {};
+};
+
+const TradeOutcome Redraw{false, DiagramChange::Redraw};
+const TradeOutcome ValuesAndRedraw{true, DiagramChange::Redraw};
+TradeOutcome Line(int maker, int partner) {
+    return {true, DiagramChange::AddLine, maker, partner};
+}
+
+using enum TradeMode;
+constexpr auto NotAllowed = "P7 and P2 are not allowed to trade with eachother";
+const std::vector<ClickCase> ClickCases{
+    {{3}, "\r\nPress Add to make a Trade Agreement", Idle},
+    {{Add}, "\r\nSelect first player...", AddFirst},
+    {{Add, 3, 3}, "P3 makes Trade Agreement with...", AddPartner},
+    {{Add, 3, Remove}, "P3 makes Trade Agreement with...", AddPartner},
+    {{Add, 3, Add}, "P3 makes Trade Agreement with...", AddPartner},
+    {{Add, 3, 5}, "P5 and P3 make a TA", Idle, {{3, 5}}, Line(3, 5)},
+    {{Add, 3, 5, Add, 5, 3}, "P3 and P5 already have a TA", Idle, {{3, 5}}},
+    {{Remove}, "There are no Trade Agreements to remove.", Idle},
+    {{Add, 3, 5, Remove}, "\r\nSelect first player...", RemoveFirst, {{3, 5}}},
+    {{Add, 3, 5, Remove, 5, 5}, "P5 breaks Trade Agreement with...", RemovePartner, {{3, 5}}},
+    {{Add, 3, 5, Remove, 5, 3}, "P3 and P5 break their TA", Idle, {}, ValuesAndRedraw},
+    {{Add, 3, 5, Remove, 2, 4}, "P4 & P2 don't have a TA to break", Idle, {{3, 5}}},
+    {{Tres}, "Select First Player...", IndependenceFirst},
+    {{Tres, 2}, "P2 is not allowed to trade with...", IndependenceSecond},
+    {{Tres, 2, 7}, NotAllowed, Idle, {}, Redraw},
+    {{Add, 7, 2, Tres, 2, 7}, NotAllowed, Idle, {}, ValuesAndRedraw},
+    {{Tres, 2, 7, Add, 7, 2}, "P2 and P7 are not allowed to trade with eachother", Idle},
+    {{Tres, 2, 7, Add, 2, 7}, NotAllowed, Idle},
+    {{Tres, 2, 2, Add, 2, 7}, "P7 and P2 make a TA", Idle, {{2, 7}}, Line(2, 7)},
+    {{Tres, 2, 7, Tres}, "Forced Economic Independance dissolved.", Idle, {}, Redraw},
+    {{Tres, 2, 7, Tres, Add, 2, 7}, "P7 and P2 make a TA", Idle, {{2, 7}}, Line(2, 7)},
+    // A law switched on abandons the selection; dissolved while choosing, the choice goes on.
+    {{Add, 4, Tres, 2}, "P2 is not allowed to trade with...", IndependenceSecond},
+    {{Tres, Tres, 2, 7, Add, 2, 7}, NotAllowed, Idle},
+    {{Tres, 2, Tres, 7}, "P7 and  are not allowed to trade with eachother", Idle, {}, Redraw},
+    {{Add, 1, 2, Add, 4, 3, TStop}, "\r\n\r\nTRADE STOP!", Idle, {}, ValuesAndRedraw},
+    {{Tres, 2, 7, TStop, Add, 2, 7}, NotAllowed, Idle},
+    {{Add, 1, 2, Add, 4, TStop}, "\r\n\r\nTRADE STOP!", AddPartner, {}, ValuesAndRedraw},
+};
+
+TEST(TradeProtocol, ClicksRecordAgreements) {
+    for (const ClickCase& row : ClickCases) {
+        SCOPED_TRACE(testing::PrintToString(row.Clicks));
+        GameState state = NamedPlayers();
+        TradeOutcome last;
+        for (const int click : row.Clicks)
+            last = Do(state, click);
+        TradeTable wanted{};
+        for (const auto& [maker, partner] : row.Agreements)
+            wanted.at(static_cast<std::size_t>(maker)).at(static_cast<std::size_t>(partner)) = -1;
+        EXPECT_EQ(state.TradeInfo, row.Info);
+        EXPECT_EQ(state.TradeMode, row.Mode);
+        EXPECT_EQ(state.TradeAgreements, wanted);
+        EXPECT_EQ(last, row.Last);
+    }
+}
+
+TEST(TradeLaws, TogglesReportAndReturnToWhatTheyWere) {
+    const std::tuple<TradeOutcome (*)(GameState&), bool LawMarks::*, const char*, const char*>
+        laws[]{
+            {TFree_Click, &LawMarks::FreeTrade, "\r\n\r\nFREE TRADE!", "\r\n\r\nFree Trade ends."},
+            {TRestr_Click, &LawMarks::TradeRestrictions, "\r\nTRADE RESTRICTIONS!",
+             "\r\nTrade Restrictions dissolved."}};
+    for (const auto& [click, mark, on, off] : laws) {
+        GameState state;
+        for (const bool inForce : {true, false}) {
+            EXPECT_TRUE(click(state).ValuesChange);
+            EXPECT_EQ(state.Laws.*mark, inForce);
+            EXPECT_EQ(state.TradeInfo, inForce ? on : off);
+        }
+    }
+}
+
+TEST(TradeCountSentence, CountsInWords) {
+    EXPECT_EQ(TradeCountSentence(0), "There are no Trade Agreements in play.");
+    EXPECT_EQ(TradeCountSentence(1), "There is one Trade Agreement in play.");
+    EXPECT_EQ(TradeCountSentence(45), "There are 45 Trade Agreements in play.");
+}
+
+} // namespace
+} // namespace ksm
