@@ -1,0 +1,20 @@
+// Numbers as the planet list writes them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ksm {
+
+struct FieldNumber {
+    double Value = 0; ///< rounded to a whole number, halves to the even neighbour; 0 without digits
+    std::string Text; ///< the characters that were read as the number
+};
+
+/// Reads the number at the beginning of `field`. Blanks, tabs and line feeds count nowhere. A
+/// number is an optional sign, then decimal digits with at most one point and an optional exponent
+/// (E or D), or &H and hexadecimal digits, or &O and octal digits; whatever follows it is ignored.
+/// A number too large for a double is the largest double, or infinite.
+FieldNumber ReadNumberField(std::string_view field);
+
+} // namespace ksm

@@ -1,0 +1,143 @@
+#include "planets/planet_list_file.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace ksm {
+namespace {
+
+using enum Specialty;
+
+struct LineCase {
+    std::string Line;
+    PlanetRecord Planet;
+};
+
+const LineCase Lines[]{
+    // Fields.
+    {"Alpha,2,1,b", {"Alpha", 2, 1, Blue}},
+    {"Alpha,2,1,Green,extra", {"Alpha", 2, 1, Green}},
+    {"Alpha,2,1,RED", {"Alpha", 2, 1, Red}},
+    {"Alpha, 2, 1, b", {"Alpha", 2, 1, None}},
+    {"Alpha", {"Alpha", 0, 0, None}},
+    {"Alpha,,3,yellow", {"Alpha", 0, 3, None}},
+    {" Al pha ,1", {" Al pha ", 1, 0, None}},
+    {"\"A,B\",4", {"\"A", 0, 4, None}},
+    // A line feed alone ends no line, and counts as a blank in a number.
+    {"Al\npha,1\n2,\n3", {"Al\npha", 12, 3, None}},
+    {"\r\n", {"", 0, 0, None}},
+    // Encodings: valid UTF-8 stays, anything else is Windows-1252.
+    {"\xEF\xBB\xBFZo\xC3\xAB,1", {"Zo\xC3\xAB", 1, 0, None}},
+    {"\xEF\xBB\xBF'comment\rAlpha", {"Alpha", 0, 0, None}},
+    {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
+    {"\xED\xA0\x80", {"\xC3\xAD\xC2\xA0\xE2\x82\xAC", 0, 0, None}},
+    // Numbers.
+    {"N,3x,1", {"N", 3, 1, None}},
+    {"N,x3,+4", {"N", 0, 4, None}},
+    {"N,2.5,3.5", {"N", 2, 4, None}},
+    {"N,-.5,-0.4", {"N", 0, 0, None}},
+    {"N,.6,5.", {"N", 1, 5, None}},
+    {"N,1.2.9,.", {"N", 1, 0, None}},
+    {"N,1 \t2,1e1", {"N", 12, 10, None}},
+    {"N,25D-1,1.5E+1", {"N", 2, 15, None}},
+    {"N,E5,--3", {"N", 0, 0, None}},
+    {"N,1e-999,0e999", {"N", 0, 0, None}},
+    {"N,&HfF,&o17", {"N", 255, 15, None}},
+    {"N,&H,&O8", {"N", 0, 0, None}},
+    {"N,&12,& H 1 2", {"N", 0, 18, None}},
+    {"N,\xD9\xA3,\xC2\xA0\x37", {"N", 0, 0, None}}, // only ASCII digits and blanks count
+};
+
+TEST(PlanetList, ReadsALineAs) {
+    for (const auto& [line, planet] : Lines) {
+        const PlanetListResult result = ReadPlanetList(line);
+        EXPECT_TRUE(result.Problems.empty()) << DescribeProblems(line, result.Problems);
+        EXPECT_EQ(result.Planets, std::vector{planet}) << testing::PrintToString(line);
+    }
+}
+
+TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
+    std::string names;
+    for (const PlanetRecord& planet :
+         ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n").Planets)
+        names += "[" + planet.Name + "]";
+    EXPECT_EQ(names, "[A][][B][][C\n]");
+}
+
+TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLine) {
+    const std::string nines(400, '9');
+    EXPECT_EQ(
+        ReadPlanetList("'c\r\nA,256,-1\r\nB,255.5\r\nC,-0.5,1e400\rD,&H100\rE," + nines).Problems,
+        (std::vector<PlanetListProblem>{
+            {2, "resources 256", "0 to 255"},
+            {2, "influence -1", "0 to 255"},
+            {3, "resources 255.5", "0 to 255"},
+            {4, "influence 1e400", "0 to 255"},
+            {5, "resources &H100", "0 to 255"},
+            {6, "resources " + nines.substr(0, 20) + "...", "0 to 255"}}));
+}
+
+TEST(PlanetList, HoldsOneToOneHundredAndOnePlanets) {
+    std::string most;
+    for (int i = 0; i < MaxPlanets; ++i)
+        most += "P\r\n";
+    EXPECT_TRUE(ReadPlanetList(most).Problems.empty());
+    const auto problems = ReadPlanetList(most + "'c\rQ\rR").Problems;
+    ASSERT_EQ(problems.size(), 1U) << "reported once, not for every line too many";
+    EXPECT_EQ(problems[0], (PlanetListProblem{103, "planet 102", "1 to 101 planets"}));
+
+    for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'line feeds\nA,1\n"})
+        EXPECT_EQ(ReadPlanetList(text).Problems.size(), 1U) << text;
+}
+
+TEST(PlanetList, AFileThatCannotBeReadIsAProblem) {
+    for (const char* path : {"/no/such/file", "/"}) {
+        const auto problems = ReadPlanetListFile(path).Problems;
+        ASSERT_EQ(problems.size(), 1U) << path;
+        EXPECT_TRUE(problems[0].What.starts_with("the file cannot be read: ")) << path;
+    }
+}
+
+TEST(PlanetList, TheMessageNamesTheFileAndTenProblems) {
+    EXPECT_EQ(DescribeProblems("Original.pln", ReadPlanetList("A,300\r\nB,-2").Problems),
+              "The planet list Original.pln cannot be used.\n"
+              "\nLine 1: resources 300 (allowed: 0 to 255)"
+              "\nLine 2: resources -2 (allowed: 0 to 255)");
+    const std::vector<PlanetListProblem> dozen(12, {7, "resources 300", "0 to 255"});
+    const std::string message = DescribeProblems("f", dozen);
+    EXPECT_EQ(std::ranges::count(message, '7'), 10);
+    EXPECT_TRUE(message.ends_with("\nand 2 more"));
+}
+
+TEST(PlanetList, FillsThePoolOfTheGame) {
+    GameState state;
+    TakePlanets(state, ReadPlanetList("A\rB\rC").Planets);
+    EXPECT_EQ(state.NumPlanets, 3);
+    EXPECT_EQ(state.Planet(2).Name, "C");
+    EXPECT_EQ(state.Planet(3), PlanetRecord{});
+    const PlayerRecord& pool = state.Player(NeutralOwner);
+    EXPECT_EQ(pool.PlanetCount, 3);
+    EXPECT_TRUE(pool.PlanetList[0] == 0 && pool.PlanetList[2] == 2);
+    EXPECT_EQ(pool.PlanetList[3], NoPlanet);
+}
+
+TEST(PlanetList, TheDeliveredListIsFitForPlay) {
+    const PlanetListResult list = ReadPlanetListFile(DELIVERED_PLANET_LIST);
+    ASSERT_TRUE(list.Problems.empty()) << DescribeProblems("it", list.Problems);
+    EXPECT_GE(list.Planets.size(), 60U);
+    const auto named = [&](const std::string& name) {
+        return std::ranges::count(list.Planets, name, &PlanetRecord::Name);
+    };
+    for (const char* home :
+         {"Quessin", "Belthune", "Miradel", "Ostrane", "Ith", "Veran", "Ossa Prime", "Calix Terra",
+          "Sennavor", "Gor'Tash", "Pellis Tau", "Pellis Ren"})
+        EXPECT_EQ(named(home), 1) << home;
+    for (const PlanetRecord& planet : list.Planets) {
+        EXPECT_FALSE(planet.Name.empty()) << "an empty line is a planet";
+        EXPECT_LE(std::max(planet.Resources, planet.Influence), 4) << planet.Name;
+        EXPECT_EQ(named(planet.Name), 1) << planet.Name;
+    }
+}
+
+} // namespace
+} // namespace ksm
