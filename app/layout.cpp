@@ -1,0 +1,74 @@
+#include "app/layout.h"
+
+#include <array>
+#include <cassert>
+
+namespace ksm {
+
+namespace {
+
+constexpr int TableLeft = 80;
+constexpr int TableWidth = 560;
+
+using Ring = std::array<RingPlace, MaxPlayers>;
+
+// The trade labels of 2, 3, ... 10 players, clockwise.
+constexpr std::array<Ring, MaxPlayers - MinPlayers + 1> Rings{{
+    {{{45, 89}, {165, 89}}},
+    {{{101, 37}, {165, 133}, {37, 133}}},
+    {{{29, 45}, {165, 45}, {165, 141}, {29, 141}}},
+    {{{13, 89}, {77, 21}, {165, 45}, {165, 133}, {77, 157}}},
+    {{{13, 89}, {61, 21}, {141, 21}, {189, 89}, {141, 157}, {61, 157}}},
+    {{{5, 89}, {53, 29}, {133, 21}, {189, 53}, {189, 117}, {133, 157}, {53, 149}}},
+    {{{5, 89}, {37, 37}, {101, 21}, {165, 37}, {197, 89}, {165, 141}, {101, 157}, {37, 141}}},
+    {{{5, 89},
+      {29, 45},
+      {93, 21},
+      {149, 29},
+      {189, 61},
+      {189, 109},
+      {149, 149},
+      {93, 157},
+      {29, 133}}},
+    {{{5, 89},
+      {29, 45},
+      {77, 21},
+      {125, 21},
+      {173, 45},
+      {197, 89},
+      {173, 133},
+      {125, 157},
+      {77, 157},
+      {29, 133}}},
+}};
+
+ColumnPlace Column(int player, int players) {
+    const int share = TableWidth / players;
+    // The whole product is divided, so that the columns of three players start at 80, 266 and 453.
+    const int left = (player - 1) * TableWidth / players + TableLeft;
+    return {.Left = left,
+            .NameWidth = share - 1,
+            .RaceWidth = share - 2,
+            .FigureLeft = TableWidth / 2 / players + left - 20};
+}
+
+int OwnerTop(int player, int players) {
+    return players > 6 ? 150 / players * (player - 1) + 31 : 25 * (player - 1) + 36;
+}
+
+} // namespace
+
+PlayerLayout LayoutForPlayerCount(int players) {
+    assert(players >= MinPlayers && players <= MaxPlayers);
+    const Ring& ring = Rings.at(static_cast<std::size_t>(players - MinPlayers));
+    PlayerLayout layout;
+    layout.Players = players;
+    for (int player = 1; player <= players; ++player) {
+        layout.Columns[player] = Column(player, players);
+        layout.OwnerTops[player] = OwnerTop(player, players);
+        layout.Ring[player] = ring.at(static_cast<std::size_t>(player - 1));
+    }
+    return layout;
+}
+
+} // namespace ksm
