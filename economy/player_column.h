@@ -1,0 +1,94 @@
+// One player's column of the player table.
+#pragma once
+
+#include "model/game_state.h"
+
+#include <QObject>
+#include <QRect>
+#include <QStringList>
+
+class QCheckBox;
+class QWidget;
+
+namespace ksm {
+
+class CaptionLabel;
+class ChoiceBox;
+class LineControl;
+class SpinBar;
+struct ColumnPlace;
+
+class PlayerColumn : public QObject {
+    Q_OBJECT
+
+public:
+    /// `races` are the entries of the race box, in the order of `Race`.
+    PlayerColumn(GameState& state, int player, const QStringList& races, QWidget* window);
+
+    /// Writes the space docks as the user's hand would.
+    void Form_Load();
+
+    void Place(const ColumnPlace& place);
+    /// Shows or hides every control of the column, the race box included.
+    void Show(bool visible);
+    /// The race box lies over the race label until the game starts.
+    void ShowRaceBox(bool visible);
+
+    /// Shows name, colours and race.
+    void ShowPlayer();
+    /// Shows figures, docks and technologies.
+    void ShowValues();
+
+    /// Top left corner of the name label, in pixels of the window.
+    QPoint NamePlace() const;
+
+signals:
+    /// An input of the rules changed.
+    void InputChanged();
+    void RaceChosen(int player, ksm::Race race);
+    void NameClicked(int player);
+
+private:
+    void MakeNames(const QStringList& races);
+    void MakeFigures();
+    void MakeTechnologies();
+    CaptionLabel* MakeLabel(const char* name, const char* heading, const QRect& place);
+    CaptionLabel* MakeFigure(const char* name, const char* heading, int top);
+    CaptionLabel* MakeCost(const char* name, const char* heading, int top,
+                           const ColourPair& colours);
+    QCheckBox* MakeBox(const char* name, const char* heading, int top);
+    QString Heading(const char* row) const;
+
+    void DockScroll_Change(int value);
+    void SpaceDocks_Change();
+    void Enviro_Click(bool checked);
+    void PellamTools_Click(bool checked);
+    void Micro_Click(bool checked);
+    void EnableTechBoxes();
+
+    PlayerControls& Inputs() { return state.Controls[player]; }
+
+    GameState& state;
+    const int player;
+    QWidget* window;
+
+    CaptionLabel* PlayerName = nullptr;
+    LineControl* StatLine = nullptr;
+    CaptionLabel* RaceLabel = nullptr;
+    ChoiceBox* Race = nullptr;
+    CaptionLabel* PlayerResources = nullptr;
+    CaptionLabel* PlayerInfluence = nullptr;
+    CaptionLabel* PlayerPlanets = nullptr;
+    CaptionLabel* PlayerCredits = nullptr;
+    CaptionLabel* SpaceDocks = nullptr;
+    SpinBar* DockScroll = nullptr;
+    QCheckBox* Enviro = nullptr;
+    QCheckBox* PellamTools = nullptr;
+    QCheckBox* Micro = nullptr;
+    CaptionLabel* PlayerGreenTech = nullptr;
+    CaptionLabel* PlayerBlueTech = nullptr;
+    CaptionLabel* PlayerRedTech = nullptr;
+    CaptionLabel* PlayerYellowTech = nullptr;
+};
+
+} // namespace ksm

@@ -1,0 +1,65 @@
+#include "economy/player_table.h"
+
+#include "controls/caption_label.h"
+
+namespace ksm {
+
+namespace {
+
+struct RowHeading {
+    const char* Caption;
+    QRect Place;
+};
+
+constexpr std::array<RowHeading, 10> RowHeadings{{
+    {"Resources", {0, 232, 57, 17}},
+    {"Influence", {0, 248, 49, 17}},
+    {"Planets", {0, 264, 57, 17}},
+    {"Receive Credits", {0, 280, 81, 17}},
+    {"Space Docks", {0, 301, 73, 17}},
+    {"Enviro Comp.", {0, 322, 81, 13}},
+    {"Pellam Tools", {0, 336, 71, 13}},
+    {"Micro Tech.", {0, 350, 57, 13}},
+    {"Technology", {0, 392, 65, 18}},
+    {"Costs", {0, 408, 65, 18}},
+}};
+
+QStringList RaceNames() {
+    QStringList names;
+    for (int race = 0; race < RaceCount; ++race) {
+        names << QLatin1StringView(Caption(static_cast<Race>(race)));
+    }
+    return names;
+}
+
+} // namespace
+
+PlayerTable::PlayerTable(GameState& state, QWidget* window) : QObject(window) {
+    for (const RowHeading& heading : RowHeadings) {
+        auto* label = new CaptionLabel(QString(), heading.Place, window);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->SetCaption(heading.Caption);
+    }
+    const QStringList races = RaceNames();
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        auto* column = new PlayerColumn(state, player, races, window);
+        connect(column, &PlayerColumn::InputChanged, this, &PlayerTable::InputChanged);
+        connect(column, &PlayerColumn::RaceChosen, this, &PlayerTable::RaceChosen);
+        connect(column, &PlayerColumn::NameClicked, this, &PlayerTable::NameClicked);
+        columns[player] = column;
+    }
+}
+
+void PlayerTable::Form_Load() {
+    for (PlayerColumn* column : columns) {
+        column->Form_Load();
+    }
+}
+
+void PlayerTable::ShowValues() {
+    for (PlayerColumn* column : columns) {
+        column->ShowValues();
+    }
+}
+
+} // namespace ksm
