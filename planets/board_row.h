@@ -1,0 +1,36 @@
+// One row of the planet board.
+#pragma once
+
+#include "model/planet_record.h"
+#include "planets/planet_label.h"
+
+namespace ksm {
+
+/// A planet's name, which can be dragged, and its figures on the colour of its specialty.
+class BoardRow {
+public:
+    /// Row 0..11 of the board.
+    BoardRow(int row, QWidget* board);
+
+    PlanetLabel& Name() { return *InvasionPlanet; }
+
+    /// Shows a planet; `tag` is its slot in the planet table.
+    void Show(int tag, const PlanetRecord& planet);
+    void ShowEmpty();
+
+    /// What assistive technology calls the row's planet; `note` says what happens to it.
+    void SetNote(const QString& note);
+
+private:
+    void ShowFigures(const QString& figures, Specialty specialty);
+    void FitFigures();
+
+    int number; ///< from 1
+    PlanetLabel* InvasionPlanet;
+    CaptionLabel* InvasionResInf;
+};
+
+/// The background of owners and planets that are not marked.
+QColor ButtonFace();
+
+} // namespace ksm
