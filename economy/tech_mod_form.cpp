@@ -1,0 +1,73 @@
+#include "economy/tech_mod_form.h"
+
+#include "controls/caption_label.h"
+#include "controls/framed_bar.h"
+#include "controls/look.h"
+#include "model/bounds.h"
+
+namespace ksm {
+
+namespace {
+
+struct ColourColumn {
+    const char* Name;
+    int LabelLeft; // twips, as all places here
+    int BarLeft;
+    ColourPair Colours;
+};
+
+constexpr std::array<ColourColumn, 4> Columns{{
+    {"Green", 120, 480, {{0, 128, 0}, White}},
+    {"Blue", 960, 1320, {{0, 0, 255}, White}},
+    {"Red", 1800, 2160, {{255, 0, 0}, White}},
+    {"Yellow", 2640, 3000, {{192, 192, 0}, Black}},
+}};
+
+QRect PlaceInTwips(int left, int top, int width, int height) {
+    return {FromTwips(left), FromTwips(top), FromTwips(width), FromTwips(height)};
+}
+
+QString Signed(int modifier) {
+    return (modifier > 0 ? "+" : "") + QString::number(modifier);
+}
+
+} // namespace
+
+TechModForm::TechModForm(QWidget* owner)
+    : FixedDialog("TechModForm", "Tech cost modifiers", {FromTwips(3480), FromTwips(1500)}, owner) {
+    setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
+    for (int index = 0; index < 4; ++index) {
+        const auto at = static_cast<std::size_t>(index);
+        const ColourColumn& column = Columns[at];
+        const QString meaning = QString("%1 cost modifier").arg(column.Name);
+
+        auto* label = new CaptionLabel(ElementName("TechModLabel", index),
+                                       PlaceInTwips(column.LabelLeft, 600, 255, 255), this);
+        label->SetColours(column.Colours);
+        label->SetHeading(meaning);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        label->SetCaption("0");
+        labels[at] = label;
+
+        auto* bar = new FramedBar(ElementName("VScroll1", index),
+                                  PlaceInTwips(column.BarLeft, 120, 255, 1215), this);
+        bar->setAccessibleName(meaning);
+        bar->SetCount(
+            {.AtZero = NeutralModifier, .Least = -NeutralModifier, .Most = NeutralModifier});
+        bar->SetRange(0, MaxModifier, NeutralModifier);
+        connect(bar, &FramedBar::valueChanged, this, [this, index] { VScroll1_Change(index); });
+        bars[at] = bar;
+    }
+    // In the middle of the upper half, where it leaves the costs in view.
+    PlaceFromOwner({204, 70});
+}
+
+void TechModForm::VScroll1_Change(int index) {
+    const auto at = static_cast<std::size_t>(index);
+    const int position = bars[at]->value();
+    labels[at]->SetCaption(Signed(NeutralModifier - position));
+    emit ModifierChanged(index, MaxModifier - position);
+}
+
+} // namespace ksm
