@@ -1,0 +1,50 @@
+#include "dialogs/tech_chart.h"
+
+namespace ksm {
+
+namespace {
+
+StrokePair Pair(ChartPoint tip, ChartPoint first, ChartPoint second, Colour ink) {
+    const auto stroke = [tip](ChartPoint offset) {
+        return ChartStroke{tip, {tip.X + offset.X, tip.Y + offset.Y}};
+    };
+    return {stroke(first), stroke(second), ink};
+}
+
+} // namespace
+
+Colour BoxColour(TechField field) {
+    switch (field) {
+    case TechField::Yellow:
+        return {192, 192, 0};
+    case TechField::Green:
+        return {0, 128, 0};
+    case TechField::Blue:
+        return {0, 0, 128};
+    case TechField::Red:
+        return {192, 0, 0};
+    }
+    return Black;
+}
+
+std::vector<StrokePair> StrokePairs(const TechChart& chart) {
+    constexpr int s = StrokeSize;
+    std::vector<StrokePair> pairs;
+    for (const auto& [shape, at, ink] : chart.Marks) {
+        switch (shape) {
+        case MarkShape::ArrowDown:
+            pairs.push_back(Pair(at, {-s, -s}, {s, -s}, ink));
+            break;
+        case MarkShape::ArrowRight:
+            pairs.push_back(Pair(at, {-s, -s}, {-s, s}, ink));
+            break;
+        case MarkShape::Diamond:
+            pairs.push_back(Pair({at.X, at.Y + s}, {-s, -s}, {s, -s}, ink));
+            pairs.push_back(Pair({at.X, at.Y - s}, {-s, s}, {s, s}, ink));
+            break;
+        }
+    }
+    return pairs;
+}
+
+} // namespace ksm

@@ -1,0 +1,103 @@
+// The technology charts as plain data: which technology leads to which, and how that is drawn.
+#pragma once
+
+#include "model/colour.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace ksm {
+
+// All measures of a chart are pixels of its window.
+inline constexpr int ChartWidth = 553;
+inline constexpr int ChartHeight = 475;
+inline constexpr int TechBoxWidth = 77;
+inline constexpr int TechBoxHeight = 33;
+/// Two boxes of the expansion are this wide.
+inline constexpr int NarrowWidth = 71;
+/// How far a stroke of an arrowhead or diamond reaches to the side, and up or down.
+inline constexpr int StrokeSize = 7;
+
+struct ChartPoint {
+    int X = 0;
+    int Y = 0;
+
+    bool operator==(const ChartPoint&) const = default;
+};
+
+/// Centre of the diamond that explains the diamonds.
+inline constexpr ChartPoint LegendSample{38, 459};
+
+/// The four kinds of technology, each with its own cost.
+enum class TechField : std::uint8_t { Yellow, Green, Blue, Red };
+
+enum class TechRule : std::uint8_t { AnyOf, AllOf };
+
+struct Technology {
+    std::string_view Name;
+    TechField Field = TechField::Yellow;
+    ChartPoint Place; ///< top left corner of the box
+    TechRule Rule = TechRule::AnyOf;
+    std::vector<int> Sources{}; ///< indices of what leads here; none: free from the start
+    int Width = TechBoxWidth;
+};
+
+namespace chart_ink {
+inline constexpr Colour BlackInk{0, 0, 0};
+inline constexpr Colour BlueInk{0, 0, 255};
+inline constexpr Colour GreenInk{0, 128, 0};
+inline constexpr Colour OrangeInk{255, 128, 0};
+inline constexpr Colour RedInk{255, 0, 0};
+} // namespace chart_ink
+
+/// A straight piece of the way from a technology to those it leads to. Pieces that touch belong
+/// together.
+struct Connector {
+    Colour Ink;
+    ChartPoint From;
+    ChartPoint To;
+};
+
+/// An arrowhead stands at its tip, on the edge of the box that it enters; a diamond at its centre.
+/// All that enters a diamond is needed for what leaves it below.
+enum class MarkShape : std::uint8_t { ArrowDown, ArrowRight, Diamond };
+
+struct ChartMark {
+    MarkShape Shape = MarkShape::ArrowDown;
+    ChartPoint At;
+    Colour Ink;
+};
+
+/// Connectors straight down are black; what leaves to the side has the colour of the field it comes
+/// from (orange for yellow). Later elements are drawn over earlier ones, and `Line1` last.
+struct TechChart {
+    std::vector<Technology> Label1;
+    std::vector<Connector> Line1;
+    std::vector<Connector> Line4;
+    std::vector<Connector> Line5;
+    std::vector<Connector> Line6;
+    std::vector<ChartMark> Marks;
+};
+
+const TechChart& StandardChart();
+const TechChart& ExpansionChart();
+
+Colour BoxColour(TechField field);
+
+struct ChartStroke {
+    ChartPoint From;
+    ChartPoint To;
+};
+
+/// Two strokes that meet at `From`: an arrowhead, or the lower or upper half of a diamond.
+struct StrokePair {
+    ChartStroke Line2;
+    ChartStroke Line3;
+    Colour Ink;
+};
+
+/// What the marks are drawn with; a diamond gives two pairs, the lower half first.
+std::vector<StrokePair> StrokePairs(const TechChart& chart);
+
+} // namespace ksm

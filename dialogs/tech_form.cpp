@@ -1,0 +1,156 @@
+#include "dialogs/tech_form.h"
+
+#include "controls/look.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace ksm {
+
+namespace {
+
+constexpr int ConnectorWidth = 3;
+constexpr int StrokeWidth = 2;
+
+QPoint ToQPoint(ChartPoint point) {
+    return {point.X, point.Y};
+}
+
+QFont BoxFont() {
+    QFont font = NarrowFont();
+    font.setBold(true);
+    return font;
+}
+
+/// One word a line.
+QString BoxText(std::string_view name) {
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).replace(' ', '\n');
+}
+
+/// What the lines that enter a box tell the eye.
+QString Requirement(const Technology& technology, const TechChart& chart) {
+    QStringList sources;
+    for (const int source : technology.Sources) {
+        sources << ToQString(std::string(chart.Label1.at(static_cast<std::size_t>(source)).Name));
+    }
+    if (sources.isEmpty()) {
+        return "free from the start";
+    }
+    return "needs " + sources.join(technology.Rule == TechRule::AllOf ? " and " : " or ");
+}
+
+QString AccessibleName(const Technology& technology, const TechChart& chart) {
+    constexpr std::array fields{"yellow", "green", "blue", "red"};
+    return QString("%1, %2, %3")
+        .arg(ToQString(std::string(technology.Name)),
+             QLatin1StringView(fields.at(static_cast<std::size_t>(technology.Field))),
+             Requirement(technology, chart));
+}
+
+QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
+    const Technology& technology = chart.Label1.at(static_cast<std::size_t>(index));
+    auto* box = new QLabel(parent);
+    box->setObjectName(ElementName("Label1", index));
+    box->setGeometry({ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)});
+    box->setFont(BoxFont());
+    box->setText(BoxText(technology.Name));
+    box->setAccessibleName(AccessibleName(technology, chart));
+    box->setAlignment(Qt::AlignCenter);
+    QPalette colours = box->palette();
+    colours.setColor(QPalette::Window, ToQColor(BoxColour(technology.Field)));
+    colours.setColor(QPalette::WindowText, Qt::white);
+    box->setPalette(colours);
+    box->setAutoFillBackground(true);
+    return box;
+}
+
+void MakeLegend(QWidget* parent) {
+    auto* legend = new QLabel("= AND", parent);
+    legend->setObjectName("Label2");
+    legend->setAccessibleName("A diamond means AND");
+    legend->setFont(BoxFont());
+    legend->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    legend->setGeometry(LegendSample.X + 13, LegendSample.Y - 8, 40, 17);
+    // A click on it is nobody's click; the boxes hand theirs on to the window.
+    legend->setAttribute(Qt::WA_NoMousePropagation);
+}
+
+void DrawConnectors(QPainter& painter, const std::vector<Connector>& connectors) {
+    for (const Connector& connector : connectors) {
+        // Square ends fill the corners where two connectors meet.
+        painter.setPen(QPen(ToQColor(connector.Ink), ConnectorWidth, Qt::SolidLine, Qt::SquareCap));
+        painter.drawLine(ToQPoint(connector.From), ToQPoint(connector.To));
+    }
+}
+
+void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
+    for (const StrokePair& pair : pairs) {
+        painter.setPen(QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::RoundCap));
+        for (const ChartStroke& stroke : {pair.Line2, pair.Line3}) {
+            painter.drawLine(ToQPoint(stroke.From), ToQPoint(stroke.To));
+        }
+    }
+}
+
+} // namespace
+
+TechForm::TechForm(QWidget* owner)
+    : TechForm("TechForm", "Korvane Astrell Technology Flowchart (Standard)", StandardChart(),
+               owner) {}
+
+TechForm2::TechForm2(QWidget* owner)
+    : TechForm("TechForm2", "Korvane Astrell Technology Flowchart (Corrin's End)", ExpansionChart(),
+               owner) {}
+
+TechForm::TechForm(const char* objectName, const QString& title, const TechChart& shown,
+                   QWidget* owner)
+    : FixedDialog(objectName, title, QSize(ChartWidth, ChartHeight), owner), chart(shown) {
+    for (int index = 0; index < static_cast<int>(chart.Label1.size()); ++index) {
+        boxes.append(MakeBox(chart, index, this));
+    }
+    MakeLegend(this);
+    Form_Load();
+}
+
+void TechForm::Form_Load() {
+    PlaceFromOwner({0, 0});
+}
+
+void TechForm::Form_Click() {
+    close();
+}
+
+void TechForm::Label1_Click(qsizetype) {
+    close();
+}
+
+void TechForm::mousePressEvent(QMouseEvent* event) {
+    pressed = event->button() == Qt::LeftButton;
+}
+
+void TechForm::mouseReleaseEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    if (!pressed || event->button() != Qt::LeftButton || !rect().contains(place)) {
+        return;
+    }
+    const qsizetype box = boxes.indexOf(childAt(place));
+    if (box >= 0) {
+        Label1_Click(box);
+    } else {
+        Form_Click();
+    }
+}
+
+void TechForm::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // A chart's point is the middle of its pixel, which makes straight lines crisp.
+    painter.translate(0.5, 0.5);
+    for (const auto* connectors : {&chart.Line6, &chart.Line5, &chart.Line4, &chart.Line1}) {
+        DrawConnectors(painter, *connectors);
+    }
+    DrawStrokes(painter, StrokePairs(chart));
+}
+
+} // namespace ksm
