@@ -1,0 +1,145 @@
+#include "dialogs/about_form.h"
+
+#include "controls/caption_label.h"
+#include "controls/look.h"
+#include "controls/program_icon.h"
+#include "controls/shape_frame.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QSvgRenderer>
+
+namespace ksm {
+
+namespace {
+
+struct Caption {
+    const char* Name;
+    int Top;
+    const char* Text;
+};
+
+constexpr Caption Captions[] = {
+    {"Label3", 37, "A game aid for two to ten players around one board."},
+    {"Label4", 53, "Written by the Korvane Astrell Manager developers."},
+    {"Label5", 69, "Free software under the MIT licence."},
+    {"Label6", 128, "Official Korvane Astrell Homepage:"},
+    {"Label7", 195, "UNofficial Korvane Astrell Site:"},
+};
+
+constexpr auto MoreAddress = "https://manager.korvane-astrell.example/";
+constexpr auto OfficialAddress = "https://www.korvane-astrell.example/";
+constexpr auto FanAddress = "https://fans.korvane-astrell.example/";
+
+constexpr int ClientWidth = 356;
+constexpr int TextLeft = 70;
+constexpr int TextWidth = ClientWidth - 2 * TextLeft;
+
+/// A drawing that is sharp at any scale.
+class Picture : public QWidget {
+public:
+    Picture(const QString& objectName, const QString& drawing, const QRect& place, QWidget* parent)
+        : QWidget(parent), renderer(drawing) {
+        setObjectName(objectName);
+        setGeometry(place);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        renderer.render(&painter, rect());
+    }
+
+private:
+    QSvgRenderer renderer;
+};
+
+CaptionLabel* MakeLine(const char* name, int top, const QString& text, QWidget* parent) {
+    auto* label = new CaptionLabel(name, QRect(12, top, ClientWidth - 24, 15), parent);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    label->SetCaption(text);
+    return label;
+}
+
+QLineEdit* MakeAddress(const char* name, const char* meaning, int top, const char* address,
+                       QWidget* parent) {
+    auto* box = new QLineEdit(address, parent);
+    box->setObjectName(name);
+    box->setAccessibleName(meaning);
+    box->setGeometry(TextLeft, top, TextWidth, 19);
+    box->setFrame(false);
+    box->setReadOnly(true);
+    box->setAlignment(Qt::AlignHCenter);
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    palette.setColor(QPalette::Text, Qt::blue);
+    box->setPalette(palette);
+    return box;
+}
+
+/// Takes back whatever changed an address, so that nothing is left to undo either.
+void Restore(QLineEdit* box, const char* address) {
+    if (box->text() != address) {
+        box->setText(address);
+    }
+}
+
+} // namespace
+
+AboutForm::AboutForm(QWidget* owner)
+    : FixedDialog("AboutForm", "About Korvane Astrell Manager", {ClientWidth, 305}, owner) {
+    setWindowIcon(ProgramIcon());
+    new ShapeFrame("Shape1", QRect(8, 8, ClientWidth - 16, 104), 6, this);
+    new ShapeFrame("Shape2", QRect(8, 182, ClientWidth - 16, 56), 6, this);
+    MakeLine("Label1", 18, "Korvane Astrell (2nd E.) Manager Version 2.0", this)
+        ->setFont(BoldFont());
+    for (const Caption& caption : Captions) {
+        MakeLine(caption.Name, caption.Top, caption.Text, this);
+    }
+    new Picture("Image1(0)", ":/ksm.svg", QRect(16, 123, 48, 48), this);
+    new Picture("Image1(1)", ":/ship.svg", QRect(292, 123, 48, 48), this);
+    new Picture("Image2(0)", ":/moon.svg", QRect(24, 194, 32, 32), this);
+    new Picture("Image2(1)", ":/station.svg", QRect(300, 194, 32, 32), this);
+
+    text3 = MakeAddress("Text3", "Web address of this program", 87, MoreAddress, this);
+    text1 = MakeAddress("Text1", "Official Korvane Astrell Homepage", 146, OfficialAddress, this);
+    text2 = MakeAddress("Text2", "UNofficial Korvane Astrell Site", 213, FanAddress, this);
+    connect(text1, &QLineEdit::textChanged, this, &AboutForm::Text1_Change);
+    connect(text2, &QLineEdit::textChanged, this, &AboutForm::Text2_Change);
+    connect(text3, &QLineEdit::textChanged, this, &AboutForm::Text3_Change);
+
+    auto* command1 = new QPushButton("OK", this);
+    command1->setObjectName("Command1");
+    command1->setGeometry((ClientWidth - 81) / 2, 246, 81, 25);
+    command1->setFocus();
+    connect(command1, &QPushButton::clicked, this, &AboutForm::Command1_Click);
+
+    QFont slanted = PlainFont();
+    slanted.setItalic(true);
+    MakeLine("Label2", 280, "Count every planet, keep every promise, rule the stars.", this)
+        ->setFont(slanted);
+    Form_Load();
+}
+
+void AboutForm::Form_Load() {
+    CentreOverOwner();
+}
+
+void AboutForm::Text1_Change() {
+    Restore(text1, OfficialAddress);
+}
+
+void AboutForm::Text2_Change() {
+    Restore(text2, FanAddress);
+}
+
+void AboutForm::Text3_Change() {
+    Restore(text3, MoreAddress);
+}
+
+void AboutForm::Command1_Click() {
+    close();
+}
+
+} // namespace ksm
