@@ -1,0 +1,129 @@
+#include "dialogs/game_file_form.h"
+
+#include "controls/caption_label.h"
+#include "controls/look.h"
+#include "controls/message_box.h"
+#include "controls/shape_frame.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTextDocument>
+
+namespace ksm {
+
+namespace {
+
+constexpr QSize Client{149, 145};
+constexpr QPoint FromOwner{FromTwips(50), FromTwips(660)};
+constexpr QRect FramePlace{3, 2, 143, 141};
+constexpr QRect CancelPlace{82, 112, 49, 25};
+// Four whole rows fill the list.
+constexpr QSize ListRow{0, 14};
+
+constexpr auto Extension = ".ksm";
+constexpr auto DefaultName = "savegame.ksm";
+
+// Hidden files too: one can be called just ".ksm". Only the extension in small letters, since a
+// name with any other would be completed to that of another file.
+QStringList GameFiles() {
+    return QDir().entryList({QString("*") + Extension},
+                            QDir::Files | QDir::Hidden | QDir::CaseSensitive,
+                            QDir::Name | QDir::IgnoreCase);
+}
+
+} // namespace
+
+GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
+    : FixedDialog(design.FormName, design.Title, Client, owner), look(design),
+      file1(new QListWidget(this)), fileNam(new QLineEdit(DefaultName, this)) {
+    setModal(true);
+    BuildControls();
+    PlaceFromOwner(FromOwner);
+}
+
+void GameFileForm::BuildControls() {
+    new ShapeFrame("Shape1", FramePlace, 6, this);
+
+    file1->setObjectName("File1");
+    file1->setAccessibleName("Saved games");
+    file1->setGeometry(look.List);
+    file1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    for (const QString& name : GameFiles()) {
+        auto* item = new QListWidgetItem(name, file1);
+        item->setSizeHint(ListRow);
+        // Plain text: a name may look like markup.
+        item->setToolTip(Qt::convertFromPlainText(name));
+    }
+
+    auto* label = new CaptionLabel("Label1", look.Label, this);
+    label->SetCaption("Filename:");
+
+    fileNam->setObjectName("FileNam");
+    fileNam->setAccessibleName("Filename");
+    fileNam->setGeometry(look.Box);
+    fileNam->setFont(NarrowFont());
+    fileNam->installEventFilter(this);
+
+    auto* confirm = new QPushButton(look.ButtonCaption, this);
+    confirm->setObjectName(look.ButtonName);
+    confirm->setGeometry(look.Button);
+    confirm->setDefault(true);
+    confirm->setFocus();
+    auto* cancel = new QPushButton("Cancel", this);
+    cancel->setObjectName("Cance");
+    cancel->setGeometry(CancelPlace);
+
+    setTabOrder(confirm, cancel);
+    setTabOrder(cancel, file1);
+    setTabOrder(file1, fileNam);
+    connect(confirm, &QPushButton::clicked, this, &GameFileForm::Confirm);
+    connect(cancel, &QPushButton::clicked, this, &GameFileForm::Cance_Click);
+    // A file is picked by the mouse or with the arrow keys.
+    connect(file1, &QListWidget::itemClicked, this, &GameFileForm::File1_Click);
+    connect(file1, &QListWidget::itemSelectionChanged, this, &GameFileForm::File1_Click);
+    connect(file1, &QListWidget::itemDoubleClicked, this, &GameFileForm::File1_DblClick);
+}
+
+void GameFileForm::Confirm() {
+    if (!fileNam->text().endsWith(Extension))
+        fileNam->setText(fileNam->text() + Extension);
+    const QString problem = UseFile(fileNam->text());
+    if (problem.isEmpty()) {
+        accept();
+    } else {
+        ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText, problem, this);
+    }
+}
+
+bool GameFileForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == fileNam && event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        FileNam_Click();
+    }
+    return FixedDialog::eventFilter(watched, event);
+}
+
+void GameFileForm::File1_Click() {
+    if (const QListWidgetItem* item = file1->currentItem())
+        fileNam->setText(item->text());
+}
+
+void GameFileForm::File1_DblClick() {
+    File1_Click();
+    Confirm();
+}
+
+// The cursor stands before the extension, ready for the name.
+void GameFileForm::FileNam_Click() {
+    fileNam->setText(Extension);
+    fileNam->setCursorPosition(0);
+}
+
+void GameFileForm::Cance_Click() {
+    reject();
+}
+
+} // namespace ksm

@@ -1,0 +1,33 @@
+#include "dialogs/load_form.h"
+
+#include "dialogs/game_file.h"
+
+namespace ksm {
+
+namespace {
+
+constexpr GameFileDesign Design{
+    .FormName = "LoadForm",
+    .Title = "Load Game",
+    .ButtonName = "Loa",
+    .ButtonCaption = "Load",
+    .FailureTitle = "Error Loading File",
+    .FailureText = "An error occured loading the file.",
+    .List = {10, 9, 129, 58},
+    .Label = {10, 88, 48, 17},
+    .Box = {59, 85, 79, 19},
+    .Button = {16, 112, 51, 25},
+};
+
+} // namespace
+
+LoadForm::LoadForm(QWidget* owner) : GameFileForm(Design, owner) {}
+
+QString LoadForm::UseFile(const QString& name) {
+    const ReadGameResult result = LoadGameFile(name);
+    if (result.Game)
+        emit GameLoaded(*result.Game);
+    return result.Problem;
+}
+
+} // namespace ksm

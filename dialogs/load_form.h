@@ -1,0 +1,25 @@
+// The dialog that loads a saved game.
+#pragma once
+
+#include "dialogs/game_file_form.h"
+#include "model/game_state.h"
+
+namespace ksm {
+
+/// Reads and checks a saved game; putting it in force is up to whoever hears of it.
+class LoadForm : public GameFileForm {
+    Q_OBJECT
+
+public:
+    explicit LoadForm(QWidget* owner);
+
+signals:
+    /// A whole and faultless game whose derived figures are still to be computed. Emitted at most
+    /// once, before the dialog closes.
+    void GameLoaded(const ksm::GameState& game);
+
+protected:
+    QString UseFile(const QString& name) override;
+};
+
+} // namespace ksm
