@@ -1,0 +1,92 @@
+// The main window: it wires the panels, the menus and the other windows to the game.
+#pragma once
+
+#include "model/game_state.h"
+
+#include <QMainWindow>
+
+namespace ksm {
+
+class MainMenu;
+class PlanetBoard;
+class PlayerTable;
+class SetupPanel;
+class TradePanel;
+class TurnOrderTable;
+struct TradeOutcome;
+
+/// Knows all panels, which do not know one another: an input changes in one of them, the rules
+/// recompute everything, and every panel shows it.
+class Korvane : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit Korvane(GameState& state);
+
+    /// Recomputes every derived figure and shows it, and ranks the players.
+    void UpdateValues();
+    /// Ranks the players by the figures last computed.
+    void TurnOrder();
+
+    // What is added to every cost of a colour, plus 15: 0..30. Writing has no other effect.
+    std::int16_t GreenModifier() const { return state.GreenModifier; }
+    void SetGreenModifier(std::int16_t modifier) { state.GreenModifier = modifier; }
+    std::int16_t BlueModifier() const { return state.BlueModifier; }
+    void SetBlueModifier(std::int16_t modifier) { state.BlueModifier = modifier; }
+    std::int16_t YellowModifier() const { return state.YellowModifier; }
+    void SetYellowModifier(std::int16_t modifier) { state.YellowModifier = modifier; }
+    std::int16_t RedModifier() const { return state.RedModifier; }
+    void SetRedModifier(std::int16_t modifier) { state.RedModifier = modifier; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void MakePanels();
+    void ConnectPanels();
+    void ConnectMenu();
+    void ConnectLaw(const char* item, TradeOutcome (*click)(GameState&));
+    void Form_Load();
+    void CentreOnScreen();
+
+    void LayoutForPlayerCount();
+    void ShowPlayerControls(int player);
+    void HidePlayerControls(int player);
+    void ShowPlayer(int player);
+    /// Setup panel and race boxes before "START", summary and board after it.
+    void ShowPhase();
+
+    void LGame_Click();
+    void SGame_Click();
+    void Notes_Click();
+    void Dice_Click();
+    void Stech_Click();
+    void HTech_Click();
+    void MenuTechMod_Click();
+    void About_Click();
+    void SetModifier(int colour, int modifier);
+    /// Puts a loaded game in force and shows all of it.
+    void TakeGame(const GameState& loaded);
+
+    void PlayerName_Click(int player);
+    void Race_Click(int player, Race race);
+    void StartGameButton_Click();
+    void MenuOrlen_Click();
+    void MenuLabour_Click();
+    void Quit_Click();
+    void Form_Unload();
+
+    GameState& state;
+    MainMenu* menu = nullptr;
+    QWidget* client = nullptr;
+    SetupPanel* setup = nullptr;
+    TurnOrderTable* summary = nullptr;
+    PlayerTable* table = nullptr;
+    PlanetBoard* board = nullptr;
+    TradePanel* trade = nullptr;
+    bool placed = false; ///< whether the window stands where it belongs, its frame counted
+};
+
+} // namespace ksm

@@ -1,0 +1,123 @@
+// The windows that the main window opens, and how they close with it.
+
+#include "app/color_select_form.h"
+#include "app/korvane.h"
+#include "controls/look.h"
+#include "dialogs/about_form.h"
+#include "dialogs/dice_form.h"
+#include "dialogs/load_form.h"
+#include "dialogs/note_form.h"
+#include "dialogs/save_form.h"
+#include "dialogs/tech_form.h"
+#include "economy/player_table.h"
+#include "economy/tech_mod_form.h"
+
+#include <QApplication>
+
+namespace ksm {
+
+namespace {
+
+// In the order in which they close with the main window. Other windows are modal, so they are
+// closed before it.
+constexpr std::array ChildWindows{"DiceForm", "TechForm", "TechForm2", "AboutForm",
+                                  "SaveForm", "LoadForm", "NoteForm"};
+
+// Shows the one window of this kind, made when it is not open yet.
+template<typename Form, typename... Arguments>
+Form* Open(QWidget* owner, Arguments&... arguments) {
+    auto* form = owner->findChild<Form*>();
+    if (!form) {
+        form = new Form(arguments..., owner);
+    }
+    form->show();
+    form->raise();
+    form->activateWindow();
+    return form;
+}
+
+// The same; the main window accepts no input until it is closed.
+template<typename Form, typename... Arguments>
+Form* OpenModal(QWidget* owner, Arguments&... arguments) {
+    auto* form = new Form(arguments..., owner);
+    form->open();
+    return form;
+}
+
+} // namespace
+
+void Korvane::LGame_Click() {
+    auto* form = OpenModal<LoadForm>(this);
+    connect(form, &LoadForm::GameLoaded, this, &Korvane::TakeGame);
+}
+
+void Korvane::SGame_Click() {
+    OpenModal<SaveForm>(this, state);
+}
+
+void Korvane::Notes_Click() {
+    Open<NoteForm>(this, state);
+}
+
+void Korvane::Dice_Click() {
+    Open<DiceForm>(this);
+}
+
+void Korvane::Stech_Click() {
+    OpenModal<TechForm>(this);
+}
+
+void Korvane::HTech_Click() {
+    OpenModal<TechForm2>(this);
+}
+
+void Korvane::About_Click() {
+    OpenModal<AboutForm>(this);
+}
+
+void Korvane::MenuTechMod_Click() {
+    auto* form = OpenModal<TechModForm>(this);
+    connect(form, &TechModForm::ModifierChanged, this, &Korvane::SetModifier);
+}
+
+void Korvane::SetModifier(int colour, int modifier) {
+    // In the order of the window's columns.
+    constexpr std::array setters{&Korvane::SetGreenModifier, &Korvane::SetBlueModifier,
+                                 &Korvane::SetRedModifier, &Korvane::SetYellowModifier};
+    const auto set = setters.at(static_cast<std::size_t>(colour));
+    (this->*set)(static_cast<std::int16_t>(modifier));
+    UpdateValues();
+}
+
+void Korvane::PlayerName_Click(int player) {
+    state.EditedPlayer = player;
+    auto* form = new ColorSelectForm(state, this);
+    connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
+    connect(form, &ColorSelectForm::Confirmed, this, &Korvane::TurnOrder);
+    form->Form_Load();
+    form->move(pos() + table->Column(player).NamePlace() + QPoint(0, FromTwips(1000)));
+    form->show();
+}
+
+void Korvane::Quit_Click() {
+    if (auto* dice = findChild<DiceForm*>()) {
+        dice->close();
+    }
+    close();
+    QApplication::quit();
+}
+
+void Korvane::closeEvent(QCloseEvent* event) {
+    Form_Unload();
+    QMainWindow::closeEvent(event);
+}
+
+void Korvane::Form_Unload() {
+    for (const char* name : ChildWindows) {
+        if (auto* window = findChild<QWidget*>(name, Qt::FindDirectChildrenOnly)) {
+            window->close();
+        }
+    }
+}
+
+} // namespace ksm

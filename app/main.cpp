@@ -1,0 +1,59 @@
+// Starts the program.
+
+#include "app/display_choice.h"
+#include "app/korvane.h"
+#include "app/single_instance.h"
+#include "controls/accessible_names.h"
+#include "controls/look.h"
+#include "controls/message_box.h"
+#include "controls/program_icon.h"
+#include "planets/planet_list_file.h"
+
+#include <QApplication>
+#include <QDir>
+
+namespace {
+
+/// Reads the planet list beside the program; says what is wrong with it and returns false if
+/// anything is.
+bool LoadPlanetList(ksm::GameState& state) {
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const auto path =
+        std::filesystem::path(folder.absolutePath().toStdString()) / ksm::PlanetListName;
+    const ksm::PlanetListResult list = ksm::ReadPlanetListFile(path);
+    if (!list.Problems.empty()) {
+        ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
+                         ksm::ToQString(ksm::DescribeProblems(path, list.Problems)));
+        return false;
+    }
+    ksm::TakePlanets(state, list.Planets);
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    ksm::ChooseDisplay();
+    // The look is our own, and the menu bar stands in the window: nothing to ask the desktop for.
+    QGuiApplication::setDesktopSettingsAware(false);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("ksm");
+    QGuiApplication::setDesktopFileName("ksm");
+    ksm::ApplyLook(application);
+    ksm::InstallAccessibleNames();
+    QApplication::setWindowIcon(ksm::ProgramIcon());
+
+    const ksm::SingleInstance instance;
+    if (instance.OtherIsRunning()) {
+        ksm::ShowMessage(QMessageBox::Information, ksm::ProgramTitle, "KSM is already running!");
+        return 1;
+    }
+    ksm::GameState state;
+    if (!LoadPlanetList(state)) {
+        return 1;
+    }
+    ksm::Korvane window(state);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,62 @@
+// A fresh main window over a small planet list, for one test.
+#pragma once
+
+#include "app/korvane.h"
+#include "planets/planet_list_file.h"
+#include "tests/window_test.h"
+
+namespace ksm {
+
+inline GameState GameOfTwentyPlanets() {
+    GameState state;
+    std::vector<PlanetRecord> planets(20);
+    int number = 0;
+    for (PlanetRecord& planet : planets) {
+        planet.Name = std::string("World ").append(std::to_string(number++));
+        planet.Resources = 2;
+        planet.Influence = 1;
+    }
+    planets[0].Name = "Quessin";
+    planets[1].Specialty = Specialty::Blue;
+    TakePlanets(state, planets);
+    return state;
+}
+
+/// The window as a player meets it; controls are found by their names.
+struct GameWindow {
+    GameState state = GameOfTwentyPlanets();
+    Korvane window{state};
+
+    GameWindow() { window.show(); }
+
+    template<typename Control = CaptionLabel>
+    Control* Find(const char* name) const {
+        auto* control = window.findChild<Control*>(QLatin1StringView(name));
+        EXPECT_NE(control, nullptr) << name;
+        return control;
+    }
+    template<typename Control = CaptionLabel>
+    Control* Find(const char* array, int index) const {
+        return Find<Control>(ElementName(array, index).toLatin1().constData());
+    }
+
+    std::string Caption(const char* array, int index) const {
+        return Find<QLabel>(array, index)->text().toStdString();
+    }
+    QColor Back(const char* array, int index) const {
+        return Find(array, index)->palette().color(QPalette::Window);
+    }
+
+    void Click(QWidget* control) const { QTest::mouseClick(control, Qt::LeftButton); }
+    void Click(const char* name) const { Click(Find<QWidget>(name)); }
+    void Click(const char* array, int index) const { Click(Find<QWidget>(array, index)); }
+    void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
+    /// Keyboard focus and shortcuts need the active window.
+    void Activate() {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    void Start() const { Click("StartGameButton"); }
+};
+
+} // namespace ksm
