@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTextBoundaryFinder>
 
+#include <limits>
+
 namespace ksm {
 
 namespace {
@@ -78,6 +80,9 @@ void ColorSelectForm::MakeControls() {
     ShortNameEntry->setObjectName("ShortNameEntry");
     ShortNameEntry->setAccessibleName("Short name");
     ShortNameEntry->setGeometry(TwipsRect(975, 450, 495, 285));
+    for (QLineEdit* entry : {NameEntry, ShortNameEntry}) {
+        entry->setMaxLength(std::numeric_limits<int>::max());
+    }
     connect(NameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::NameEntry_Change);
     connect(ShortNameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::ShortNameEntry_Change);
 }
