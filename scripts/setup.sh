@@ -10,6 +10,7 @@ SourceFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
     FontPackages=(fontconfig fonts-liberation fonts-comic-neue)
     BuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev)
     DisplayPackages=(xvfb openbox xdotool imagemagick)
+    FuzzPackages=(clang libclang-rt-14-dev)
     LintPackages=(clang-format clang-tidy shellcheck)
     PackagePackages=(dpkg-dev file gzip lintian desktop-file-utils appstream man-db groff)
 }
