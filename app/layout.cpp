@@ -58,15 +58,18 @@ int OwnerTop(int player, int players) {
 
 } // namespace
 
+RingPlace PlaceInRing(int player, int players) {
+    const Ring& ring = Rings.at(static_cast<std::size_t>(players - MinPlayers));
+    return ring.at(static_cast<std::size_t>(player - 1));
+}
+
 PlayerLayout LayoutForPlayerCount(int players) {
     assert(players >= MinPlayers && players <= MaxPlayers);
-    const Ring& ring = Rings.at(static_cast<std::size_t>(players - MinPlayers));
     PlayerLayout layout;
     layout.Players = players;
     for (int player = 1; player <= players; ++player) {
         layout.Columns[player] = Column(player, players);
         layout.OwnerTops[player] = OwnerTop(player, players);
-        layout.Ring[player] = ring.at(static_cast<std::size_t>(player - 1));
     }
     return layout;
 }

@@ -28,8 +28,10 @@ struct PlayerLayout {
     int Players = 0;
     PerPlayer<ColumnPlace> Columns;
     PerPlayer<int> OwnerTops; ///< tops of the owner labels on the planet board
-    PerPlayer<RingPlace> Ring;
 };
+
+/// Where the player's trade label stands in the ring of that many players, 2 to 10.
+RingPlace PlaceInRing(int player, int players);
 
 /// The layout for 2 to 10 players.
 PlayerLayout LayoutForPlayerCount(int players);

@@ -226,7 +226,8 @@ private:
             if (shown) {
                 PlaceColumn(columns[player], layout.Columns[player]);
                 owners[static_cast<std::size_t>(player) + 1]->move(0, layout.OwnerTops[player]);
-                ring[player]->move(layout.Ring[player].Left, layout.Ring[player].Top);
+                const ksm::RingPlace place = ksm::PlaceInRing(player, players);
+                ring[player]->move(place.Left, place.Top);
             }
             ShowColumn(columns[player], shown);
             owners[static_cast<std::size_t>(player) + 1]->setVisible(shown);

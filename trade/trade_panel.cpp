@@ -39,9 +39,8 @@ TradePanel::TradePanel(GameState& game, QWidget* parent) : QWidget(parent), stat
 }
 
 void TradePanel::MakeLabels() {
-    const PlayerLayout design = LayoutForPlayerCount(MaxPlayers);
     for (int player = 1; player <= MaxPlayers; ++player) {
-        const RingPlace place = design.Ring[player];
+        const RingPlace place = PlaceInRing(player, MaxPlayers);
         auto* label = new CaptionLabel(ElementName("TradePlayer", player),
                                        {{place.Left, place.Top}, LabelSize}, this);
         label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
@@ -105,8 +104,7 @@ void TradePanel::NameLabels() {
     for (int player = 1; player <= MaxPlayers; ++player) {
         QString heading = QString("Trade, Player %1").arg(player);
         for (int partner = 1; partner <= MaxPlayers; ++partner) {
-            if (state.Cell(player, partner) != NoAgreement ||
-                state.Cell(partner, player) != NoAgreement) {
+            if (HaveAgreement(state, player, partner)) {
                 heading += QString(", agreement with Player %1").arg(partner);
             }
         }
@@ -130,8 +128,8 @@ TradeAnchors TradePanel::Anchors() const {
 
 void TradePanel::PlaceLabels() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        const PlayerLayout layout = LayoutForPlayerCount(state.Controls[player].TradeRing);
-        TradePlayer[player]->move(layout.Ring[player].Left, layout.Ring[player].Top);
+        const RingPlace place = PlaceInRing(player, state.Controls[player].TradeRing);
+        TradePlayer[player]->move(place.Left, place.Top);
     }
 }
 

@@ -35,13 +35,12 @@ TEST(Layout, SpacesTheOwnersOnTheBoard) {
 // Whatever was mistyped in the table of the rings would put labels on one another or off the panel.
 TEST(Layout, TheRingsRunClockwiseInsideThePanelWithoutOverlap) {
     for (int players = MinPlayers; players <= MaxPlayers; ++players) {
-        const PlayerLayout layout = LayoutForPlayerCount(players);
         int turns = 0;
         for (int player = 1; player <= players; ++player) {
-            const RingPlace place = layout.Ring[player];
+            const RingPlace place = PlaceInRing(player, players);
             EXPECT_TRUE(place.Left >= 5 && place.Left + 30 <= 230) << players << ", " << player;
             EXPECT_TRUE(place.Top >= 21 && place.Top + 18 <= 178) << players << ", " << player;
-            const RingPlace next = layout.Ring[player % players + 1];
+            const RingPlace next = PlaceInRing(player % players + 1, players);
             EXPECT_TRUE(std::abs(next.Left - place.Left) >= 30 ||
                         std::abs(next.Top - place.Top) >= 18);
             // Seen from the middle of the ring the next label lies to the right hand.
