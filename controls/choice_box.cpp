@@ -6,7 +6,6 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QStyle>
 
 namespace ksm {
 

@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QStyle>
 #include <QStyleFactory>
-#include <QToolTip>
 
 #include <algorithm>
 
