@@ -1,7 +1,9 @@
 #include "app/color_select_form.h"
 
 #include "controls/caption_label.h"
-#include "controls/look.h"
+#include "controls/element_name.h"
+#include "controls/twips.h"
+#include "model/player_labels.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -24,23 +26,19 @@ struct SwatchDesign {
 
 // In the order of their numbers 1..12.
 constexpr std::array<SwatchDesign, 12> Swatches{{
-    {240, 1320, "Orange", {{255, 128, 0}, Black}},
-    {240, 840, "White", {White, Black}},
-    {240, 1080, "Yellow", {{255, 255, 0}, Black}},
-    {960, 840, "Black", {Black, White}},
-    {600, 1320, "Dark green", {{0, 128, 0}, White}},
-    {960, 1320, "Blue", {{0, 0, 255}, White}},
-    {600, 840, "Grey", {{128, 128, 128}, White}},
-    {960, 1560, "Magenta", {{255, 0, 255}, Black}},
-    {600, 1560, "Pink", {{255, 128, 128}, Black}},
-    {240, 1560, "Red", {{255, 0, 0}, White}},
-    {600, 1080, "Green", {{0, 255, 0}, Black}},
-    {960, 1080, "Navy", {{0, 0, 128}, White}},
+    {240, 1320, "Orange", {colour::Orange, colour::Black}},
+    {240, 840, "White", {colour::White, colour::Black}},
+    {240, 1080, "Yellow", {colour::Yellow, colour::Black}},
+    {960, 840, "Black", {colour::Black, colour::White}},
+    {600, 1320, "Dark green", {colour::DarkGreen, colour::White}},
+    {960, 1320, "Blue", {colour::Blue, colour::White}},
+    {600, 840, "Grey", {colour::Grey, colour::White}},
+    {960, 1560, "Magenta", {colour::Magenta, colour::Black}},
+    {600, 1560, "Pink", {colour::Pink, colour::Black}},
+    {240, 1560, "Red", {colour::Red, colour::White}},
+    {600, 1080, "Green", {colour::Green, colour::Black}},
+    {960, 1080, "Navy", {colour::Navy, colour::White}},
 }};
-
-QRect TwipsRect(int left, int top, int width, int height) {
-    return {FromTwips(left), FromTwips(top), FromTwips(width), FromTwips(height)};
-}
 
 // A letter with its accents, or an emoji of several parts, is one character.
 QString FirstCharacters(const QString& text, int count) {
@@ -54,13 +52,14 @@ QString FirstCharacters(const QString& text, int count) {
 } // namespace
 
 ColorSelectForm::ColorSelectForm(GameState& game, QWidget* owner)
-    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), state(game) {
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), state(game),
+      player(game.View.EditedPlayer) {
     setObjectName("ColorSelectForm");
-    setWindowTitle(tr("Player %1").arg(state.EditedPlayer));
+    setWindowTitle(tr("Player %1").arg(player));
     setFixedSize(FromTwips(1590), FromTwips(2370));
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_DeleteOnClose);
-    MakeControls();
+    MakeEntries();
     MakeSwatches();
     auto* ok = new QPushButton("OK", this);
     ok->setObjectName("ColorOK");
@@ -68,23 +67,22 @@ ColorSelectForm::ColorSelectForm(GameState& game, QWidget* owner)
     connect(ok, &QPushButton::clicked, this, &ColorSelectForm::ColorOK_Click);
 }
 
-void ColorSelectForm::MakeControls() {
-    NameEntry = new QLineEdit("Name", this);
-    NameEntry->setObjectName("NameEntry");
-    NameEntry->setAccessibleName("Name");
-    NameEntry->setGeometry(TwipsRect(45, 60, 1440, 330));
-    auto* label = new CaptionLabel("Label1", TwipsRect(60, 480, 855, 255), this);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    label->SetCaption("Short name");
-    ShortNameEntry = new QLineEdit(this);
-    ShortNameEntry->setObjectName("ShortNameEntry");
-    ShortNameEntry->setAccessibleName("Short name");
-    ShortNameEntry->setGeometry(TwipsRect(975, 450, 495, 285));
-    for (QLineEdit* entry : {NameEntry, ShortNameEntry}) {
-        entry->setMaxLength(std::numeric_limits<int>::max());
-    }
+void ColorSelectForm::MakeEntries() {
+    NameEntry = MakeEntry("NameEntry", "Name", TwipsRect(45, 60, 1440, 330));
+    NameEntry->setText("Name");
+    (new CaptionLabel("Label1", TwipsRect(60, 480, 855, 255), this))->SetCaption("Short name");
+    ShortNameEntry = MakeEntry("ShortNameEntry", "Short name", TwipsRect(975, 450, 495, 285));
     connect(NameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::NameEntry_Change);
     connect(ShortNameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::ShortNameEntry_Change);
+}
+
+QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, const QRect& place) {
+    auto* entry = new QLineEdit(this);
+    entry->setObjectName(name);
+    entry->setAccessibleName(meaning);
+    entry->setGeometry(place);
+    entry->setMaxLength(std::numeric_limits<int>::max());
+    return entry;
 }
 
 void ColorSelectForm::MakeSwatches() {
@@ -101,39 +99,39 @@ void ColorSelectForm::MakeSwatches() {
 }
 
 void ColorSelectForm::Form_Load() {
-    const int player = state.EditedPlayer;
     const bool named = !state.Player(player).Name.empty();
     // A text that differs from the design text "Name" counts as a change.
-    NameEntry->setText(named ? ToQString(PlayerCaption(state, player)) : QString());
+    NameEntry->setText(named ? QString::fromStdString(PlayerCaption(state, player)) : QString());
 }
 
 void ColorSelectForm::NameEntry_Change(const QString& text) {
-    const int player = state.EditedPlayer;
     const QString shortName = FirstCharacters(text, 3);
-    state.Player(player).Name = text.toStdString();
-    state.Controls[player].Named = true;
-    state.Controls[player].ShortName = shortName.toStdString();
+    SetName(state, player, text.toStdString(), shortName.toStdString());
     ShortNameEntry->setText(shortName);
     emit PlayerChanged(player);
+    emit Changed();
 }
 
+// Also runs when the name brings its short name along.
 void ColorSelectForm::ShortNameEntry_Change(const QString& text) {
-    state.Controls[state.EditedPlayer].ShortName = text.toStdString();
-    emit PlayerChanged(state.EditedPlayer);
+    const std::string shortName = text.toStdString();
+    if (shortName != state.Player(player).ShortName) {
+        state.Player(player).ShortName = shortName;
+        emit PlayerChanged(player);
+        emit Changed();
+    }
 }
 
 void ColorSelectForm::NameColor_Click(int swatch) {
-    const ColourPair& colours = Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours;
-    PlayerControls& controls = state.Controls[state.EditedPlayer];
-    controls.NameColours = colours;
-    controls.TradeColours = colours;
-    emit PlayerChanged(state.EditedPlayer);
+    SetColours(state, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
+    emit PlayerChanged(player);
+    emit Changed();
 }
 
 void ColorSelectForm::ColorOK_Click() {
     emit Confirmed();
     close();
-    // Not every window manager gives the keyboard back.
+    // Not every window manager gives the focus back.
     parentWidget()->activateWindow();
 }
 

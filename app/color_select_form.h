@@ -9,20 +9,22 @@ class QLineEdit;
 
 namespace ksm {
 
-/// Edits player `EditedPlayer`. Every change takes effect at once; there is no cancel. Closing it
-/// in any way unloads it.
+/// Names the player of its opening, `EditedPlayer`. Every change takes effect at once; there is no
+/// cancel. Closing it in any way unloads it.
 class ColorSelectForm : public QWidget {
     Q_OBJECT
 
 public:
-    ColorSelectForm(GameState& state, QWidget* owner);
+    ColorSelectForm(GameState& game, QWidget* owner);
 
     /// Fills the name box, which empties the labels of a player who has no name yet.
     void Form_Load();
 
 signals:
-    /// Name, short name or colours of the edited player changed.
+    /// Name, short name or colours of the player changed: they are shown before this returns.
     void PlayerChanged(int player);
+    /// What the user did is done.
+    void Changed();
     /// "OK" or Enter.
     void Confirmed();
 
@@ -32,7 +34,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void MakeControls();
+    void MakeEntries();
+    QLineEdit* MakeEntry(const char* name, const char* meaning, const QRect& place);
     void MakeSwatches();
     void NameEntry_Change(const QString& text);
     void ShortNameEntry_Change(const QString& text);
@@ -40,6 +43,7 @@ private:
     void ColorOK_Click();
 
     GameState& state;
+    const int player;
     QLineEdit* NameEntry = nullptr;
     QLineEdit* ShortNameEntry = nullptr;
 };

@@ -1,12 +1,13 @@
 #include "app/korvane.h"
 
-#include "app/layout.h"
 #include "app/main_menu.h"
-#include "app/races.h"
 #include "app/setup_panel.h"
 #include "controls/message_box.h"
 #include "dialogs/note_form.h"
+#include "economy/game_setup.h"
+#include "economy/laws.h"
 #include "economy/player_table.h"
+#include "economy/turn_order.h"
 #include "economy/turn_order_table.h"
 #include "economy/value_update.h"
 #include "planets/planet_board.h"
@@ -42,7 +43,9 @@ Korvane::Korvane(GameState& game)
     MakePanels();
     ConnectPanels();
     ConnectMenu();
-    Form_Load();
+    ConnectTradeLaws();
+    CentreOnScreen();
+    ShowGame();
 }
 
 void Korvane::MakePanels() {
@@ -53,7 +56,7 @@ void Korvane::MakePanels() {
     board = new PlanetBoard(state, client);
     trade = new TradePanel(state, client);
     setup->raise();
-    // The keyboard starts on no control, and a click on the background takes it away from one.
+    // The focus starts on no control, and a click on the background takes it away from one.
     client->setFocusPolicy(Qt::ClickFocus);
     client->setAccessibleName("Player table");
     client->setFocus();
@@ -63,50 +66,41 @@ void Korvane::ConnectPanels() {
     connect(table, &PlayerTable::InputChanged, this, &Korvane::UpdateValues);
     connect(board, &PlanetBoard::InputChanged, this, &Korvane::UpdateValues);
     connect(trade, &TradePanel::InputChanged, this, &Korvane::UpdateValues);
-    connect(table, &PlayerTable::RaceChosen, this, &Korvane::Race_Click);
-    connect(table, &PlayerTable::NameClicked, this, &Korvane::PlayerName_Click);
     connect(setup, &SetupPanel::PlayerCountChanged, this, &Korvane::LayoutForPlayerCount);
+    connect(table, &PlayerTable::Changed, this, &Korvane::Changed);
+    connect(board, &PlanetBoard::Changed, this, &Korvane::Changed);
+    connect(trade, &TradePanel::Changed, this, &Korvane::Changed);
+    connect(setup, &SetupPanel::Changed, this, &Korvane::Changed);
+    connect(table, &PlayerTable::NameClicked, this, &Korvane::PlayerName_Click);
     connect(setup, &SetupPanel::StartClicked, this, &Korvane::StartGameButton_Click);
 }
 
 void Korvane::ConnectMenu() {
-    constexpr std::array handlers{
-        std::pair{"LGame", &Korvane::LGame_Click},
-        std::pair{"SGame", &Korvane::SGame_Click},
-        std::pair{"Quit", &Korvane::Quit_Click},
-        std::pair{"MenuOrlen", &Korvane::MenuOrlen_Click},
-        std::pair{"Notes", &Korvane::Notes_Click},
-        std::pair{"Dice", &Korvane::Dice_Click},
-        std::pair{"Stech", &Korvane::Stech_Click},
-        std::pair{"HTech", &Korvane::HTech_Click},
-        std::pair{"MenuTechMod", &Korvane::MenuTechMod_Click},
-        std::pair{"MenuLabour", &Korvane::MenuLabour_Click},
-        std::pair{"About", &Korvane::About_Click},
+    connect(menu->LGame, &QAction::triggered, this, &Korvane::LGame_Click);
+    connect(menu->SGame, &QAction::triggered, this, &Korvane::SGame_Click);
+    connect(menu->Quit, &QAction::triggered, this, &Korvane::Quit_Click);
+    connect(menu->MenuOrlen, &QAction::triggered, this, &Korvane::MenuOrlen_Click);
+    connect(menu->Notes, &QAction::triggered, this, &Korvane::Notes_Click);
+    connect(menu->Dice, &QAction::triggered, this, &Korvane::Dice_Click);
+    connect(menu->Stech, &QAction::triggered, this, &Korvane::Stech_Click);
+    connect(menu->HTech, &QAction::triggered, this, &Korvane::HTech_Click);
+    connect(menu->MenuTechMod, &QAction::triggered, this, &Korvane::MenuTechMod_Click);
+    connect(menu->MenuLabour, &QAction::triggered, this, &Korvane::MenuLabour_Click);
+    connect(menu->About, &QAction::triggered, this, &Korvane::About_Click);
+}
+
+void Korvane::ConnectTradeLaws() {
+    const auto connectLaw = [this](QAction* item, TradeOutcome (*click)(Game&)) {
+        connect(item, &QAction::triggered, this, [this, click] {
+            const TradeOutcome outcome = click(state);
+            menu->ShowLaws(state.Laws);
+            trade->Apply(outcome); // which announces the change
+        });
     };
-    for (const auto& [item, handler] : handlers) {
-        connect(menu->Item(item), &QAction::triggered, this, handler);
-    }
-    ConnectLaw("Tres", Tres_Click);
-    ConnectLaw("TFree", TFree_Click);
-    ConnectLaw("TRestr", TRestr_Click);
-    ConnectLaw("TStop", TStop_Click);
-}
-
-void Korvane::ConnectLaw(const char* item, TradeOutcome (*click)(GameState&)) {
-    connect(menu->Item(item), &QAction::triggered, this, [this, click] {
-        trade->Apply(click(state));
-        menu->ShowLaws(state.Laws);
-    });
-}
-
-void Korvane::Form_Load() {
-    CentreOnScreen();
-    table->Form_Load();
-    board->ShowFirstPage();
-    setup->Form_Load();
-    state.NumPlayers = 6;
-    LayoutForPlayerCount();
-    ShowPhase();
+    connectLaw(menu->Tres, Tres_Click);
+    connectLaw(menu->TFree, TFree_Click);
+    connectLaw(menu->TRestr, TRestr_Click);
+    connectLaw(menu->TStop, TStop_Click);
 }
 
 void Korvane::UpdateValues() {
@@ -117,36 +111,35 @@ void Korvane::UpdateValues() {
 }
 
 void Korvane::TurnOrder() {
+    ksm::TurnOrder(state);
     summary->ShowTurnOrder();
 }
 
 void Korvane::LayoutForPlayerCount() {
-    const PlayerLayout layout = ksm::LayoutForPlayerCount(state.NumPlayers);
     for (int player = 1; player <= MaxPlayers; ++player) {
         if (player > state.NumPlayers) {
             HidePlayerControls(player);
             continue;
         }
-        board->PlaceOwner(player, layout.OwnerTops[player]);
-        table->Column(player).Place(layout.Columns[player]);
-        state.Controls[player].TradeRing = state.NumPlayers;
+        board->PlaceOwner(player);
+        table->Column(player).Place();
+        trade->PlaceLabel(player);
         ShowPlayerControls(player);
     }
-    trade->PlaceLabels();
 }
 
 void Korvane::ShowPlayerControls(int player) {
-    summary->ShowRow(player, true);
-    board->ShowOwner(player, true);
-    trade->ShowLabel(player, true);
-    table->Column(player).Show(true);
+    summary->SetRowVisible(player, true);
+    board->SetOwnerVisible(player, true);
+    trade->SetLabelVisible(player, true);
+    table->Column(player).SetVisible(true);
 }
 
 void Korvane::HidePlayerControls(int player) {
-    summary->ShowRow(player, false);
-    board->ShowOwner(player, false);
-    trade->ShowLabel(player, false);
-    table->Column(player).Show(false);
+    summary->SetRowVisible(player, false);
+    board->SetOwnerVisible(player, false);
+    trade->SetLabelVisible(player, false);
+    table->Column(player).SetVisible(false);
 }
 
 void Korvane::ShowPlayer(int player) {
@@ -156,58 +149,65 @@ void Korvane::ShowPlayer(int player) {
 }
 
 void Korvane::ShowPhase() {
-    // A control that goes would hand the keyboard to its neighbour, which nobody asked for.
-    client->setFocus();
     setup->setVisible(!state.Started);
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        table->Column(player).ShowRaceBox(!state.Started && player <= state.NumPlayers);
-    }
+    table->ShowPhase();
     // The setup panel covers them; the keyboard must not reach below it.
     summary->setEnabled(state.Started);
     board->setEnabled(state.Started);
 }
 
-void Korvane::TakeGame(const GameState& loaded) {
-    state = loaded;
+void Korvane::ShowGame() {
+    const QWidget* focused = focusWidget();
     setup->ShowGame();
+    board->ShowGame();
     LayoutForPlayerCount();
     ShowPhase();
     for (int player = 1; player <= MaxPlayers; ++player) {
         ShowPlayer(player);
     }
-    UpdateValues();
-    board->ShowGame();
-    trade->ShowGame();
+    table->ShowValues();
+    trade->ShowValues();
+    trade->ShowInfo();
+    trade->ShowDiagram();
+    summary->ShowTurnOrder();
     menu->ShowLaws(state.Laws);
     if (auto* notes = findChild<NoteForm*>()) {
         notes->ShowNotes();
     }
+    if (focusWidget() != focused) {
+        // Its control is gone. The neighbour, to which Qt hands the focus, was not asked for.
+        client->setFocus();
+    }
 }
 
-void Korvane::Race_Click(int player, Race race) {
-    ChooseRace(state, player, race);
-    ShowPlayer(player);
-    UpdateValues();
+void Korvane::TakeGame(const GameState& loaded) {
+    state = loaded;
+    ShowGame();
+    emit Changed();
 }
 
 void Korvane::StartGameButton_Click() {
-    state.Started = true;
+    StartGame(state);
+    client->setFocus(); // the button goes
     ShowPhase();
     UpdateValues();
     TurnOrder();
+    emit Changed();
 }
 
 void Korvane::MenuOrlen_Click() {
-    state.Laws.OrlenHouseRules = !state.Laws.OrlenHouseRules;
+    ksm::MenuOrlen_Click(state);
     menu->ShowLaws(state.Laws);
     TurnOrder();
+    emit Changed();
 }
 
 void Korvane::MenuLabour_Click() {
-    state.Laws.LabourUnion = !state.Laws.LabourUnion;
+    ksm::MenuLabour_Click(state);
     menu->ShowLaws(state.Laws);
     UpdateValues();
     TurnOrder();
+    emit Changed();
 }
 
 void Korvane::CentreOnScreen() {

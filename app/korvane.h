@@ -16,12 +16,17 @@ class TurnOrderTable;
 struct TradeOutcome;
 
 /// Knows all panels, which do not know one another: an input changes in one of them, the rules
-/// recompute everything, and every panel shows it.
+/// recompute everything, every panel shows it, and the change is announced.
 class Korvane : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit Korvane(GameState& state);
+    /// Shows the game as it is.
+    explicit Korvane(GameState& game);
+
+    /// Shows the whole game. It only reads: the state stays as it is, nothing is announced, and the
+    /// focus stays where it is unless its control is gone.
+    void ShowGame();
 
     /// Recomputes every derived figure and shows it, and ranks the players.
     void UpdateValues();
@@ -38,6 +43,11 @@ public:
     std::int16_t RedModifier() const { return state.RedModifier; }
     void SetRedModifier(std::int16_t modifier) { state.RedModifier = modifier; }
 
+signals:
+    /// The user did something, and the state is whole again. Everything that changes the state ends
+    /// here, once for each thing done.
+    void Changed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -47,8 +57,7 @@ private:
     void MakePanels();
     void ConnectPanels();
     void ConnectMenu();
-    void ConnectLaw(const char* item, TradeOutcome (*click)(GameState&));
-    void Form_Load();
+    void ConnectTradeLaws();
     void CentreOnScreen();
 
     void LayoutForPlayerCount();
@@ -67,11 +76,10 @@ private:
     void MenuTechMod_Click();
     void About_Click();
     void SetModifier(int colour, int modifier);
-    /// Puts a loaded game in force and shows all of it.
     void TakeGame(const GameState& loaded);
+    void NameConfirmed();
 
     void PlayerName_Click(int player);
-    void Race_Click(int player, Race race);
     void StartGameButton_Click();
     void MenuOrlen_Click();
     void MenuLabour_Click();

@@ -2,7 +2,7 @@
 
 #include "app/color_select_form.h"
 #include "app/korvane.h"
-#include "controls/look.h"
+#include "controls/twips.h"
 #include "dialogs/about_form.h"
 #include "dialogs/dice_form.h"
 #include "dialogs/load_form.h"
@@ -56,7 +56,8 @@ void Korvane::SGame_Click() {
 }
 
 void Korvane::Notes_Click() {
-    Open<NoteForm>(this, state);
+    auto* form = Open<NoteForm>(this, state);
+    connect(form, &NoteForm::Changed, this, &Korvane::Changed, Qt::UniqueConnection);
 }
 
 void Korvane::Dice_Click() {
@@ -87,16 +88,25 @@ void Korvane::SetModifier(int colour, int modifier) {
     const auto set = setters.at(static_cast<std::size_t>(colour));
     (this->*set)(static_cast<std::int16_t>(modifier));
     UpdateValues();
+    emit Changed();
 }
 
 void Korvane::PlayerName_Click(int player) {
-    state.EditedPlayer = player;
+    state.View.EditedPlayer = player;
     auto* form = new ColorSelectForm(state, this);
     connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
-    connect(form, &ColorSelectForm::Confirmed, this, &Korvane::TurnOrder);
+    connect(form, &ColorSelectForm::Confirmed, this, &Korvane::NameConfirmed);
     form->Form_Load();
+    // What loading changed belongs to the click.
+    connect(form, &ColorSelectForm::Changed, this, &Korvane::Changed);
     form->move(pos() + table->Column(player).NamePlace() + QPoint(0, FromTwips(1000)));
     form->show();
+    emit Changed();
+}
+
+void Korvane::NameConfirmed() {
+    TurnOrder();
+    emit Changed();
 }
 
 void Korvane::Quit_Click() {

@@ -23,7 +23,7 @@ bool LoadPlanetList(ksm::GameState& state) {
     const ksm::PlanetListResult list = ksm::ReadPlanetListFile(path);
     if (!list.Problems.empty()) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
-                         ksm::ToQString(ksm::DescribeProblems(path, list.Problems)));
+                         QString::fromStdString(ksm::DescribeProblems(path, list.Problems)));
         return false;
     }
     ksm::TakePlanets(state, list.Planets);

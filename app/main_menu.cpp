@@ -3,110 +3,103 @@
 #include <QAction>
 #include <QMenu>
 
-#include <span>
-
 namespace ksm {
 
 namespace {
 
-enum class Kind { Command, Greyed, Check, GreyedCheck, Separator };
+QAction* MakeItem(QMenu* menu, const char* name, const char* caption, const char* shortcut = "") {
+    QAction* item = menu->addAction(caption);
+    item->setObjectName(name);
+    item->setShortcut(QKeySequence(shortcut));
+    return item;
+}
 
-struct ItemDesign {
-    const char* Name;
-    const char* Caption;
-    const char* Shortcut = "";
-    ksm::Kind Kind = Kind::Command;
-};
+QAction* MakeCheckItem(QMenu* menu, const char* name, const char* caption) {
+    QAction* item = MakeItem(menu, name, caption);
+    item->setCheckable(true);
+    return item;
+}
 
-constexpr std::array FileItems{
-    ItemDesign{"new", "New Game", "", Kind::Greyed},
-    ItemDesign{"x", "", "", Kind::Separator},
-    ItemDesign{"LGame", "Load Game", "F1"},
-    ItemDesign{"SGame", "Save Game", "F2"},
-    ItemDesign{"bar1", "", "", Kind::Separator},
-    ItemDesign{"LoadPlanButton", "Load Planet List", "", Kind::Greyed},
-    ItemDesign{"bar2", "", "", Kind::Separator},
-    ItemDesign{"Quit", "E&xit", "Ctrl+X"},
-};
-
-constexpr std::array OptionItems{
-    ItemDesign{"MenuSound", "Sound", "Ctrl+S", Kind::GreyedCheck},
-    ItemDesign{"MenuOrlen", "Orlen house rules", "", Kind::Check},
-};
-
-constexpr std::array TechItems{
-    ItemDesign{"Stech", "Standard", "F5"},
-    ItemDesign{"HTech", "Corrin's End", "F6"},
-    ItemDesign{"Indent", "", "", Kind::Separator},
-    ItemDesign{"MenuTechMod", "Tech Modifiers"},
-};
-
-constexpr std::array LawItems{
-    ItemDesign{"MenuLabour", "Labour Union", "", Kind::Check},
-    ItemDesign{"MenuStudies", "Subsidized Studies", "", Kind::Greyed},
-};
-
-constexpr std::array TradeItems{
-    ItemDesign{"Tres", "Economic Independance", "", Kind::Check},
-    ItemDesign{"TFree", "Free Trade", "", Kind::Check},
-    ItemDesign{"TRestr", "Trade Restrictions", "", Kind::Check},
-    ItemDesign{"TStop", "Trade Stop"},
-};
-
-// An item without a list stands on the bar itself.
-struct BarDesign {
-    const char* Name;
-    const char* Caption;
-    std::span<const ItemDesign> Items;
-};
-
-constexpr std::array<BarDesign, 8> Bar{{
-    {"File", "&File", FileItems},
-    {"MenuOptions", "&Options", OptionItems},
-    {"Notes", "&Notes", {}},
-    {"Dice", "&Dice Roller", {}},
-    {"Techs", "Tech", TechItems},
-    {"MenuLaws", "&Laws", LawItems},
-    {"Trad", "&Trade", TradeItems},
-    {"About", "&About", {}},
-}};
-
-void AddItem(QMenu& menu, const ItemDesign& design) {
-    QAction* item = menu.addAction(design.Caption);
-    item->setObjectName(design.Name);
-    item->setSeparator(design.Kind == Kind::Separator);
-    item->setShortcut(QKeySequence(design.Shortcut));
-    item->setCheckable(design.Kind == Kind::Check || design.Kind == Kind::GreyedCheck);
-    item->setChecked(design.Kind == Kind::GreyedCheck);
-    item->setEnabled(design.Kind != Kind::Greyed && design.Kind != Kind::GreyedCheck);
+void MakeSeparator(QMenu* menu, const char* name) {
+    menu->addSeparator()->setObjectName(name);
 }
 
 } // namespace
 
 MainMenu::MainMenu(QWidget* parent) : QMenuBar(parent) {
-    for (const BarDesign& design : Bar) {
-        if (design.Items.empty()) {
-            addAction(design.Caption)->setObjectName(design.Name);
-            continue;
-        }
-        QMenu* menu = addMenu(design.Caption);
-        menu->setObjectName(design.Name);
-        for (const ItemDesign& item : design.Items) {
-            AddItem(*menu, item);
-        }
-    }
+    MakeFileMenu();
+    MakeOptionsMenu();
+    Notes = MakeBarItem("Notes", "&Notes");
+    Dice = MakeBarItem("Dice", "&Dice Roller");
+    MakeTechMenu();
+    MakeLawsMenu();
+    MakeTradeMenu();
+    About = MakeBarItem("About", "&About");
 }
 
-QAction* MainMenu::Item(const char* name) const {
-    return findChild<QAction*>(QLatin1StringView(name));
+// Greyed items have no action and never get one.
+
+void MainMenu::MakeFileMenu() {
+    QMenu* menu = MakeMenu("File", "&File");
+    MakeItem(menu, "new", "New Game")->setEnabled(false);
+    MakeSeparator(menu, "x");
+    LGame = MakeItem(menu, "LGame", "Load Game", "F1");
+    SGame = MakeItem(menu, "SGame", "Save Game", "F2");
+    MakeSeparator(menu, "bar1");
+    MakeItem(menu, "LoadPlanButton", "Load Planet List")->setEnabled(false);
+    MakeSeparator(menu, "bar2");
+    Quit = MakeItem(menu, "Quit", "E&xit", "Ctrl+X");
+}
+
+void MainMenu::MakeOptionsMenu() {
+    QMenu* menu = MakeMenu("MenuOptions", "&Options");
+    QAction* sound = MakeItem(menu, "MenuSound", "Sound", "Ctrl+S");
+    sound->setCheckable(true);
+    sound->setChecked(true);
+    sound->setEnabled(false);
+    MenuOrlen = MakeCheckItem(menu, "MenuOrlen", "Orlen house rules");
+}
+
+void MainMenu::MakeTechMenu() {
+    QMenu* menu = MakeMenu("Techs", "Tech");
+    Stech = MakeItem(menu, "Stech", "Standard", "F5");
+    HTech = MakeItem(menu, "HTech", "Corrin's End", "F6");
+    MakeSeparator(menu, "Indent");
+    MenuTechMod = MakeItem(menu, "MenuTechMod", "Tech Modifiers");
+}
+
+void MainMenu::MakeLawsMenu() {
+    QMenu* menu = MakeMenu("MenuLaws", "&Laws");
+    MenuLabour = MakeCheckItem(menu, "MenuLabour", "Labour Union");
+    MakeItem(menu, "MenuStudies", "Subsidized Studies")->setEnabled(false);
+}
+
+void MainMenu::MakeTradeMenu() {
+    QMenu* menu = MakeMenu("Trad", "&Trade");
+    Tres = MakeCheckItem(menu, "Tres", "Economic Independance");
+    TFree = MakeCheckItem(menu, "TFree", "Free Trade");
+    TRestr = MakeCheckItem(menu, "TRestr", "Trade Restrictions");
+    TStop = MakeItem(menu, "TStop", "Trade Stop");
+}
+
+QMenu* MainMenu::MakeMenu(const char* name, const char* caption) {
+    QMenu* menu = addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+QAction* MainMenu::MakeBarItem(const char* name, const char* caption) {
+    QAction* item = addAction(caption);
+    item->setObjectName(name);
+    return item;
 }
 
 void MainMenu::ShowLaws(const LawMarks& laws) {
-    Item("MenuLabour")->setChecked(laws.LabourUnion);
-    Item("MenuOrlen")->setChecked(laws.OrlenHouseRules);
-    Item("Tres")->setChecked(laws.EconomicIndependence);
-    Item("TFree")->setChecked(laws.FreeTrade);
-    Item("TRestr")->setChecked(laws.TradeRestrictions);
+    MenuLabour->setChecked(laws.LabourUnion);
+    MenuOrlen->setChecked(laws.OrlenHouseRules);
+    Tres->setChecked(laws.EconomicIndependence);
+    TFree->setChecked(laws.FreeTrade);
+    TRestr->setChecked(laws.TradeRestrictions);
 }
 
 } // namespace ksm

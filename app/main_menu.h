@@ -8,18 +8,41 @@
 namespace ksm {
 
 /// Holds the items with their captions, shortcuts and first states; what they do is connected by
-/// the main window, which finds them by name.
+/// the main window.
 class MainMenu : public QMenuBar {
     Q_OBJECT
 
 public:
     explicit MainMenu(QWidget* parent);
 
-    /// The item of this name, such as "Tres".
-    QAction* Item(const char* name) const;
-
     /// Shows the check marks of the laws and house rules.
     void ShowLaws(const LawMarks& laws);
+
+    // The items that do something. They belong to the menu.
+    QAction* LGame = nullptr;
+    QAction* SGame = nullptr;
+    QAction* Quit = nullptr;
+    QAction* MenuOrlen = nullptr;
+    QAction* Notes = nullptr;
+    QAction* Dice = nullptr;
+    QAction* Stech = nullptr;
+    QAction* HTech = nullptr;
+    QAction* MenuTechMod = nullptr;
+    QAction* MenuLabour = nullptr;
+    QAction* Tres = nullptr;
+    QAction* TFree = nullptr;
+    QAction* TRestr = nullptr;
+    QAction* TStop = nullptr;
+    QAction* About = nullptr;
+
+private:
+    void MakeFileMenu();
+    void MakeOptionsMenu();
+    void MakeTechMenu();
+    void MakeLawsMenu();
+    void MakeTradeMenu();
+    QMenu* MakeMenu(const char* name, const char* caption);
+    QAction* MakeBarItem(const char* name, const char* caption);
 };
 
 } // namespace ksm

@@ -3,6 +3,7 @@
 #include "controls/caption_label.h"
 #include "controls/look.h"
 #include "controls/spin_bar.h"
+#include "economy/game_setup.h"
 
 #include <QPushButton>
 #include <QRadioButton>
@@ -34,7 +35,7 @@ constexpr int BottomOfScroll = ScrollForNoPlayers - MinPlayers;
 
 } // namespace
 
-SetupPanel::SetupPanel(GameState& game, QWidget* parent) : QWidget(parent), state(game) {
+SetupPanel::SetupPanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     setObjectName("GameSetupPic");
     setGeometry(Panel);
     setAutoFillBackground(true);
@@ -45,7 +46,7 @@ SetupPanel::SetupPanel(GameState& game, QWidget* parent) : QWidget(parent), stat
 void SetupPanel::MakeLabels() {
     for (const LabelDesign& design : Labels) {
         auto* label = new CaptionLabel(design.Name, design.Place, this);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->SetAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->setFont(design.Bold ? BoldFont() : PlainFont());
         label->SetCaption(design.Caption);
     }
@@ -53,45 +54,47 @@ void SetupPanel::MakeLabels() {
 
 void SetupPanel::MakeControls() {
     PlayNumScroll = new SpinBar("PlayNumScroll", {112, 32, 17, 25}, this);
-    PlayNumScroll->SetRange(0, 32767, 0);
+    PlayNumScroll->SetRange(0, 32767, ScrollForNoPlayers - game.NumPlayers);
     PlayNumScroll->SetCount(
         {.AtZero = ScrollForNoPlayers, .Least = MinPlayers, .Most = MaxPlayers});
     PlayNumScroll->setAccessibleName("Number of Players");
     connect(PlayNumScroll, &QScrollBar::valueChanged, this, &SetupPanel::PlayNumScroll_Change);
-    OptionNormal = MakeOption("OptionNormal", "Normal", 48);
-    MakeOption("OptionExpand", "Expansion", 64)->setEnabled(false);
-    MakeOption("OptionCustom", "Custom", 80)->setEnabled(false);
+    MakeOptions();
     auto* start = new QPushButton("START", this);
     start->setObjectName("StartGameButton");
     start->setGeometry(136, 152, 53, 22);
     connect(start, &QPushButton::clicked, this, &SetupPanel::StartClicked);
 }
 
-QRadioButton* SetupPanel::MakeOption(const char* name, const char* caption, int top) {
-    auto* option = new QRadioButton(caption, this);
-    option->setObjectName(name);
-    option->setGeometry(168, top, 73, 17);
-    return option;
-}
-
-void SetupPanel::Form_Load() {
-    OptionNormal->setChecked(true);
-    PlayNumScroll->setValue(5);
+void SetupPanel::MakeOptions() {
+    const auto make = [this](const char* name, const char* caption, int top) {
+        auto* option = new QRadioButton(caption, this);
+        option->setObjectName(name);
+        option->setGeometry(168, top, 73, 17);
+        return option;
+    };
+    make("OptionNormal", "Normal", 48)->setChecked(true);
+    make("OptionExpand", "Expansion", 64)->setEnabled(false);
+    make("OptionCustom", "Custom", 80)->setEnabled(false);
 }
 
 void SetupPanel::ShowGame() {
-    PlayNumScroll->setValue(ScrollForNoPlayers - state.NumPlayers);
+    PlayNumScroll->setValue(ScrollForNoPlayers - game.NumPlayers);
 }
 
+// Also runs when the bar is moved to show the game.
 void SetupPanel::PlayNumScroll_Change(int value) {
-    // Each write runs this handler again, which then finds the value in range.
-    if (value < TopOfScroll) {
-        PlayNumScroll->setValue(TopOfScroll);
-    } else if (value > BottomOfScroll) {
-        PlayNumScroll->setValue(BottomOfScroll);
+    const int allowed = std::clamp(value, TopOfScroll, BottomOfScroll);
+    if (allowed != value) {
+        PlayNumScroll->setValue(allowed); // which runs this handler again
+        return;
     }
-    state.NumPlayers = ScrollForNoPlayers - PlayNumScroll->value();
-    emit PlayerCountChanged();
+    const int players = ScrollForNoPlayers - value;
+    if (players != game.NumPlayers) {
+        SetPlayerCount(game, players);
+        emit PlayerCountChanged();
+        emit Changed();
+    }
 }
 
 } // namespace ksm

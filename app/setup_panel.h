@@ -5,9 +5,6 @@
 
 #include <QWidget>
 
-class QPushButton;
-class QRadioButton;
-
 namespace ksm {
 
 class SpinBar;
@@ -17,26 +14,26 @@ class SetupPanel : public QWidget {
     Q_OBJECT
 
 public:
-    SetupPanel(GameState& state, QWidget* parent);
+    SetupPanel(Game& shown, QWidget* parent);
 
-    /// Writes the number of players at start as the user's hand would.
-    void Form_Load();
-    /// Shows the number of players of the game state.
+    /// Shows the number of players.
     void ShowGame();
 
 signals:
+    /// The number of players changed: the window is laid out for it before this returns.
     void PlayerCountChanged();
+    /// What the user did is done.
+    void Changed();
     void StartClicked();
 
 private:
     void MakeLabels();
     void MakeControls();
-    QRadioButton* MakeOption(const char* name, const char* caption, int top);
+    void MakeOptions();
     void PlayNumScroll_Change(int value);
 
-    GameState& state;
+    Game& game;
     SpinBar* PlayNumScroll = nullptr;
-    QRadioButton* OptionNormal = nullptr;
 };
 
 } // namespace ksm

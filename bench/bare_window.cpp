@@ -2,7 +2,10 @@
 // kinds and at the same places, in Qt's own look. The same clicks and keys write new texts into as
 // many labels as change in the main window. No rules, no state.
 
-#include "app/layout.h"
+#include "economy/column_place.h"
+#include "model/per_player.h"
+#include "planets/owner_place.h"
+#include "trade/ring.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -220,14 +223,13 @@ private:
     }
 
     void PlaceAll() {
-        const ksm::PlayerLayout layout = ksm::LayoutForPlayerCount(players);
         for (int player = 1; player <= ksm::MaxPlayers; ++player) {
             const bool shown = player <= players;
             if (shown) {
-                PlaceColumn(columns[player], layout.Columns[player]);
-                owners[static_cast<std::size_t>(player) + 1]->move(0, layout.OwnerTops[player]);
-                const ksm::RingPlace place = ksm::PlaceInRing(player, players);
-                ring[player]->move(place.Left, place.Top);
+                PlaceColumn(columns[player], ksm::PlaceOfColumn(player, players));
+                owners[static_cast<std::size_t>(player) + 1]->move(0, ksm::TopOfOwner(player, players));
+                const ksm::Point place = ksm::PlaceInRing(player, players);
+                ring[player]->move(place.X, place.Y);
             }
             ShowColumn(columns[player], shown);
             owners[static_cast<std::size_t>(player) + 1]->setVisible(shown);

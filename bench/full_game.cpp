@@ -5,10 +5,10 @@ namespace ksm {
 namespace {
 
 void MakePlayer(GameState& state, int player) {
-    PlayerControls& controls = state.Controls[player];
-    controls.Race = player % 2 == 0 ? Race::Altheran : Race::Orrun;
-    controls.SpaceDocks = MaxSpaceDocks;
-    controls.Enviro = controls.PellamTools = controls.Micro = true;
+    PlayerRecord& record = state.Player(player);
+    record.Race = player % 2 == 0 ? Race::Altheran : Race::Orrun;
+    record.SpaceDocks = MaxSpaceDocks;
+    record.Enviro = record.PellamTools = record.Micro = true;
     for (int partner = 1; partner < player; ++partner) {
         state.Cell(partner, player) = Agreement;
     }

@@ -15,7 +15,8 @@ namespace {
 /// The name is put together when somebody asks, so a figure that changes costs nothing more.
 class AccessibleCaption : public QAccessibleWidget {
 public:
-    explicit AccessibleCaption(CaptionLabel* label) : QAccessibleWidget(label), caption(label) {}
+    explicit AccessibleCaption(CaptionLabel* captionLabel)
+        : QAccessibleWidget(captionLabel), label(captionLabel) {}
 
     // Asked for again and again, since a label may become clickable late.
     QAccessible::Role role() const override {
@@ -26,14 +27,14 @@ public:
         if (kind != QAccessible::Name) {
             return {};
         }
-        const QString heading = caption->accessibleDescription();
-        const bool both = !heading.isEmpty() && !caption->text().isEmpty();
-        return heading + (both ? ": " : "") + caption->text();
+        const QString heading = label->Heading();
+        const bool both = !heading.isEmpty() && !label->Caption().isEmpty();
+        return heading + (both ? ": " : "") + label->Caption();
     }
 
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
-        if (IsClickable() && caption->isEnabled()) {
+        if (IsClickable() && label->isEnabled()) {
             names.prepend(pressAction());
         }
         return names;
@@ -41,16 +42,16 @@ public:
 
     void doAction(const QString& name) override {
         if (name == pressAction()) {
-            caption->Activate();
+            label->Activate();
         } else {
             QAccessibleWidget::doAction(name);
         }
     }
 
 private:
-    bool IsClickable() const { return caption->focusPolicy() != Qt::NoFocus; }
+    bool IsClickable() const { return label->focusPolicy() != Qt::NoFocus; }
 
-    CaptionLabel* caption;
+    CaptionLabel* label;
 };
 
 /// Qt names a combo box after its text alone.

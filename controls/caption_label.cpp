@@ -1,54 +1,37 @@
 #include "controls/caption_label.h"
 
-#include "controls/look.h"
+#include "controls/fitting_font.h"
+#include "controls/plain_tool_tip.h"
+#include "controls/qt_values.h"
 
 #include <QAccessible>
 #include <QFontMetricsF>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <cmath>
 
 namespace ksm {
 
-namespace {
-
-/// Where a label can have the keyboard, QLabel makes a text document of its text. Nobody needs it,
-/// and it costs more than the rest of the label.
-class NoDocument {
-public:
-    explicit NoDocument(QLabel& owner) : label(owner), policy(owner.focusPolicy()) {
-        label.setFocusPolicy(Qt::NoFocus);
-    }
-    ~NoDocument() { label.setFocusPolicy(policy); }
-    Q_DISABLE_COPY_MOVE(NoDocument)
-
-private:
-    QLabel& label;
-    Qt::FocusPolicy policy;
-};
-
-} // namespace
-
-CaptionLabel::CaptionLabel(QWidget* parent) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-}
-
 CaptionLabel::CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent)
-    : CaptionLabel(parent) {
+    : QWidget(parent) {
     setObjectName(objectName);
     setGeometry(place);
 }
 
-void CaptionLabel::SetCaption(const QString& caption) {
-    if (caption == text()) {
+void CaptionLabel::SetCaption(const QString& text) {
+    if (text == caption) {
         return;
     }
+    caption = text;
     fittedWidth = -1;
-    const NoDocument guard(*this);
-    setText(caption);
+    update();
+    AnnounceName();
+}
+
+void CaptionLabel::SetAlignment(Qt::Alignment edges) {
+    alignment = edges;
+    update();
 }
 
 void CaptionLabel::SetColours(const ColourPair& colours) {
@@ -56,39 +39,44 @@ void CaptionLabel::SetColours(const ColourPair& colours) {
 }
 
 void CaptionLabel::SetColours(const QColor& back, const QColor& text) {
-    if (autoFillBackground() && palette().color(QPalette::Window) == back &&
-        palette().color(QPalette::WindowText) == text) {
-        return;
-    }
-    QPalette painted = palette();
-    painted.setColor(QPalette::Window, back);
-    painted.setColor(QPalette::WindowText, text);
-    setPalette(painted);
-    setAutoFillBackground(true);
+    SetBackColour(back);
+    SetTextColour(text);
 }
 
 void CaptionLabel::SetBackColour(const QColor& back) {
-    if (autoFillBackground() && palette().color(QPalette::Window) == back) {
-        return;
-    }
-    QPalette painted = palette();
-    painted.setColor(QPalette::Window, back);
-    setPalette(painted);
     setAutoFillBackground(true);
+    if (palette().color(QPalette::Window) != back) {
+        QPalette painted = palette();
+        painted.setColor(QPalette::Window, back);
+        setPalette(painted);
+    }
 }
 
-void CaptionLabel::SetHeading(const QString& heading) {
-    if (heading == accessibleDescription()) {
-        return;
+void CaptionLabel::SetTextColour(const QColor& text) {
+    if (palette().color(QPalette::WindowText) != text) {
+        QPalette painted = palette();
+        painted.setColor(QPalette::WindowText, text);
+        setPalette(painted);
     }
-    setAccessibleDescription(heading);
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+}
+
+void CaptionLabel::SetHeading(const QString& text) {
+    if (text != heading) {
+        heading = text;
+        AnnounceName();
+    }
+}
+
+void CaptionLabel::AnnounceName() {
+    if (QAccessible::isActive()) {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&renamed);
+    }
 }
 
 void CaptionLabel::MakeClickable() {
     clickable = true;
-    // Not by mouse: a click acts and leaves the keyboard where it is.
+    // Not by mouse: a click acts and leaves the focus where it is.
     setFocusPolicy(Qt::TabFocus);
 }
 
@@ -98,42 +86,29 @@ QString CaptionLabel::ShownText() const {
 }
 
 void CaptionLabel::Fit() const {
-    const int room = contentsRect().width();
+    const int room = width();
     if (fittedWidth == room) {
         return;
     }
     fittedWidth = room;
-    shownText = text();
-    shownFont = font();
-    shownWidth = QFontMetricsF(shownFont).horizontalAdvance(shownText);
-    if (shownWidth <= room) {
-        return;
-    }
-    shownFont = NarrowFont(font().pixelSize());
-    shownFont.setBold(font().bold());
-    shownFont.setItalic(font().italic());
-    while (QFontMetricsF(shownFont).horizontalAdvance(shownText) > room &&
-           shownFont.pixelSize() > font().pixelSize() - 2) {
-        shownFont.setPixelSize(shownFont.pixelSize() - 1);
-    }
+    shownFont = FittingFont(font(), font().pixelSize() - 2, caption, room);
     const QFontMetricsF metrics(shownFont);
-    shownText = metrics.elidedText(shownText, Qt::ElideRight, room);
+    shownText = metrics.elidedText(caption, Qt::ElideRight, room);
     shownWidth = metrics.horizontalAdvance(shownText);
 }
 
 QPointF CaptionLabel::BaseLineStart(const QFontMetricsF& metrics) const {
-    const QRectF place = contentsRect();
-    double x = place.left();
-    if (alignment() & Qt::AlignHCenter) {
-        x += (place.width() - shownWidth) / 2;
-    } else if (alignment() & Qt::AlignRight) {
-        x += place.width() - shownWidth;
+    double x = 0;
+    if (alignment & Qt::AlignHCenter) {
+        x = (width() - shownWidth) / 2;
+    } else if (alignment & Qt::AlignRight) {
+        x = width() - shownWidth;
     }
-    double y = place.top() + metrics.ascent();
-    if (alignment() & Qt::AlignVCenter) {
-        y = place.top() + (place.height() + metrics.capHeight()) / 2;
-    } else if (alignment() & Qt::AlignBottom) {
-        y = place.bottom();
+    double y = metrics.ascent();
+    if (alignment & Qt::AlignVCenter) {
+        y = (height() + metrics.capHeight()) / 2;
+    } else if (alignment & Qt::AlignBottom) {
+        y = height();
     }
     return {std::round(x), std::round(y)};
 }
@@ -162,43 +137,26 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 }
 
 bool CaptionLabel::event(QEvent* event) {
-    if (event->type() == QEvent::Polish) {
-        const NoDocument guard(*this);
-        return QLabel::event(event);
-    }
     if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        // A name may look like markup; the tooltip must show it as it was typed.
-        QToolTip::showText(help->globalPos(),
-                           ShownText() == text() ? QString() : Qt::convertFromPlainText(text()),
-                           this);
+        ShowPlainToolTip(*static_cast<QHelpEvent*>(event),
+                         ShownText() == caption ? QString() : caption, this);
         return true;
     }
-    return QLabel::event(event);
+    return QWidget::event(event);
 }
 
 void CaptionLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) {
         fittedWidth = -1;
     }
-    QLabel::changeEvent(event);
-}
-
-void CaptionLabel::focusInEvent(QFocusEvent* event) {
-    QLabel::focusInEvent(event);
-    update();
-}
-
-void CaptionLabel::focusOutEvent(QFocusEvent* event) {
-    QLabel::focusOutEvent(event);
-    update();
+    QWidget::changeEvent(event);
 }
 
 void CaptionLabel::keyPressEvent(QKeyEvent* event) {
     const bool acts = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                       event->key() == Qt::Key_Enter;
     if (!acts || focusPolicy() == Qt::NoFocus) {
-        QLabel::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
         Activate();
     }
@@ -211,16 +169,15 @@ void CaptionLabel::Activate() {
 }
 
 void CaptionLabel::mousePressEvent(QMouseEvent* event) {
-    if (!clickable || event->button() != Qt::LeftButton) {
-        QLabel::mousePressEvent(event);
-        return;
+    pressed = clickable && event->button() == Qt::LeftButton;
+    if (!pressed) {
+        QWidget::mousePressEvent(event);
     }
-    pressed = true;
 }
 
 void CaptionLabel::mouseReleaseEvent(QMouseEvent* event) {
     if (!pressed || event->button() != Qt::LeftButton) {
-        QLabel::mouseReleaseEvent(event);
+        QWidget::mouseReleaseEvent(event);
         return;
     }
     pressed = false;

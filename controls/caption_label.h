@@ -3,38 +3,45 @@
 
 #include "model/colour.h"
 
-#include <QLabel>
+#include <QWidget>
+
+class QFontMetricsF;
 
 namespace ksm {
 
 /// Shows a caption in one line. A caption wider than the label is drawn in the condensed face, up
 /// to two pixels smaller, and with an ellipsis where that is too wide as well; the whole of it is
-/// then the tooltip. `text()` stays the whole caption in every case.
+/// then the tooltip.
 ///
 /// Vertical alignment: `AlignTop` and `AlignVCenter` place the letters as usual; `AlignBottom` puts
 /// the base line onto the lower edge, so that figures of any size stand on one line.
-class CaptionLabel : public QLabel {
+class CaptionLabel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit CaptionLabel(QWidget* parent);
     CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent);
 
     /// Writes only a caption that differs.
     void SetCaption(const QString& caption);
+    /// The whole caption, also where less of it is drawn.
+    const QString& Caption() const { return caption; }
+    /// The caption as it is drawn.
+    QString ShownText() const;
+
+    void SetAlignment(Qt::Alignment alignment);
     void SetColours(const ColourPair& colours);
     void SetColours(const QColor& back, const QColor& text);
     void SetBackColour(const QColor& back);
+    void SetTextColour(const QColor& text);
+
     /// What assistive technology says before the caption: "Influence, Player 3".
     void SetHeading(const QString& heading);
+    const QString& Heading() const { return heading; }
 
     /// Lets the mouse, and Space or Return after Tab, click the label.
     void MakeClickable();
     /// Does what Space or Return does: clicks a clickable label.
     virtual void Activate();
-
-    /// The caption as it is drawn.
-    QString ShownText() const;
 
 signals:
     void Clicked();
@@ -42,8 +49,6 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -53,7 +58,11 @@ private:
     void Fit() const;
     void PaintFocus(QPainter& painter) const;
     QPointF BaseLineStart(const QFontMetricsF& metrics) const;
+    void AnnounceName();
 
+    QString caption;
+    QString heading;
+    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool clickable = false;
     bool pressed = false;
     // What fits the label at this width; found when first needed after a change.

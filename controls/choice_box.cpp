@@ -1,6 +1,6 @@
 #include "controls/choice_box.h"
 
-#include "controls/look.h"
+#include "controls/fitting_font.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -52,15 +52,8 @@ void ChoiceBox::FitText(const QString& text) {
     }
     // A line edit keeps two pixels on either side and one for the caret.
     const int room = lineEdit()->width() - 5;
-    QFont fitting = font();
-    if (QFontMetrics(fitting).horizontalAdvance(text) > room) {
-        fitting = NarrowFont(fitting.pixelSize());
-        constexpr int SmallestText = 8;
-        while (fitting.pixelSize() > SmallestText &&
-               QFontMetrics(fitting).horizontalAdvance(text) > room) {
-            fitting.setPixelSize(fitting.pixelSize() - 1);
-        }
-    }
+    constexpr int SmallestText = 8;
+    const QFont fitting = FittingFont(font(), SmallestText, text, room);
     if (lineEdit()->font() != fitting) {
         lineEdit()->setFont(fitting);
     }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QPalette>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -10,10 +11,8 @@ namespace ksm {
 
 namespace {
 
-constexpr QColor ButtonFace{239, 239, 239};
-
 QPalette LightPalette() {
-    QPalette palette(ButtonFace);
+    QPalette palette(ButtonFace());
     palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
@@ -67,6 +66,10 @@ void ApplyLook(QApplication& application) {
     application.setEffectEnabled(Qt::UI_AnimateMenu, false);
 }
 
+QColor ButtonFace() {
+    return {239, 239, 239};
+}
+
 QFont PlainFont(int pixels) {
     return Font(Sans(), pixels, QFont::Normal);
 }
@@ -81,10 +84,6 @@ QFont NarrowFont(int pixels) {
 
 QFont ComicFont(int pixels) {
     return Font(Comic(), pixels, QFont::Bold);
-}
-
-QString ElementName(const char* array, int index) {
-    return QString("%1(%2)").arg(QLatin1StringView(array)).arg(index);
 }
 
 } // namespace ksm

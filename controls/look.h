@@ -1,14 +1,8 @@
-// The one look of every window: style, palette, fonts and units.
+// The one look of every window: style, palette and fonts.
 #pragma once
-
-#include "model/colour.h"
 
 #include <QColor>
 #include <QFont>
-#include <QPalette>
-#include <QString>
-
-#include <string>
 
 class QApplication;
 
@@ -16,6 +10,9 @@ namespace ksm {
 
 /// Gives the program its light Fusion look, whatever theme the desktop has.
 void ApplyLook(QApplication& application);
+
+/// The background of windows, and of labels that have no colour of their own.
+QColor ButtonFace();
 
 // 8.25, 12 and 15.75 points at 96 dots an inch.
 inline constexpr int SmallText = 11;
@@ -31,20 +28,5 @@ QFont BoldFont(int pixels = SmallText);
 QFont NarrowFont(int pixels = SmallText);
 /// The handwritten face of the dice roller.
 QFont ComicFont(int pixels);
-
-/// Pixels for a measure in twips (15 to the pixel), rounded to the nearest.
-constexpr int FromTwips(int twips) {
-    return twips >= 0 ? (twips + 7) / 15 : -((-twips + 7) / 15);
-}
-
-inline QColor ToQColor(Colour colour) {
-    return {colour.Red, colour.Green, colour.Blue};
-}
-inline QString ToQString(const std::string& utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-/// Object name of one element of a control array: "PlayerName(3)".
-QString ElementName(const char* array, int index);
 
 } // namespace ksm

@@ -1,6 +1,6 @@
 #include "controls/message_box.h"
 
-#include <QTextDocument>
+#include "controls/plain_tool_tip.h"
 
 namespace ksm {
 
@@ -10,7 +10,7 @@ void ShowMessage(QMessageBox::Icon icon, const QString& title, const QString& te
     box.setTextFormat(Qt::PlainText);
     // The label of the reason has a format of its own; what a file holds may look like markup.
     if (!reason.isEmpty()) {
-        box.setInformativeText(Qt::convertFromPlainText(reason));
+        box.setInformativeText(PlainText(reason));
     }
     box.exec();
 }

@@ -57,7 +57,7 @@ private:
 
 CaptionLabel* MakeLine(const char* name, int top, const QString& text, QWidget* parent) {
     auto* label = new CaptionLabel(name, QRect(12, top, ClientWidth - 24, 15), parent);
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    label->SetAlignment(Qt::AlignCenter);
     label->SetCaption(text);
     return label;
 }
@@ -69,7 +69,6 @@ QLineEdit* MakeAddress(const char* name, const char* meaning, int top, const cha
     box->setAccessibleName(meaning);
     box->setGeometry(TextLeft, top, TextWidth, 19);
     box->setFrame(false);
-    box->setReadOnly(true);
     box->setAlignment(Qt::AlignHCenter);
     QPalette palette = box->palette();
     palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -78,7 +77,8 @@ QLineEdit* MakeAddress(const char* name, const char* meaning, int top, const cha
     return box;
 }
 
-/// Takes back whatever changed an address, so that nothing is left to undo either.
+/// Takes back whatever changed an address, so that nothing is left to undo either. The addresses can
+/// be selected and copied.
 void Restore(QLineEdit* box, const char* address) {
     if (box->text() != address) {
         box->setText(address);
@@ -102,18 +102,18 @@ AboutForm::AboutForm(QWidget* owner)
     new Picture("Image2(0)", ":/moon.svg", QRect(24, 194, 32, 32), this);
     new Picture("Image2(1)", ":/station.svg", QRect(300, 194, 32, 32), this);
 
-    text3 = MakeAddress("Text3", "Web address of this program", 87, MoreAddress, this);
-    text1 = MakeAddress("Text1", "Official Korvane Astrell Homepage", 146, OfficialAddress, this);
-    text2 = MakeAddress("Text2", "UNofficial Korvane Astrell Site", 213, FanAddress, this);
-    connect(text1, &QLineEdit::textChanged, this, &AboutForm::Text1_Change);
-    connect(text2, &QLineEdit::textChanged, this, &AboutForm::Text2_Change);
-    connect(text3, &QLineEdit::textChanged, this, &AboutForm::Text3_Change);
+    Text3 = MakeAddress("Text3", "Web address of this program", 87, MoreAddress, this);
+    Text1 = MakeAddress("Text1", "Official Korvane Astrell Homepage", 146, OfficialAddress, this);
+    Text2 = MakeAddress("Text2", "UNofficial Korvane Astrell Site", 213, FanAddress, this);
+    connect(Text1, &QLineEdit::textChanged, this, &AboutForm::Text1_Change);
+    connect(Text2, &QLineEdit::textChanged, this, &AboutForm::Text2_Change);
+    connect(Text3, &QLineEdit::textChanged, this, &AboutForm::Text3_Change);
 
-    auto* command1 = new QPushButton("OK", this);
-    command1->setObjectName("Command1");
-    command1->setGeometry((ClientWidth - 81) / 2, 246, 81, 25);
-    command1->setFocus();
-    connect(command1, &QPushButton::clicked, this, &AboutForm::Command1_Click);
+    auto* ok = new QPushButton("OK", this);
+    ok->setObjectName("Command1");
+    ok->setGeometry((ClientWidth - 81) / 2, 246, 81, 25);
+    ok->setFocus();
+    connect(ok, &QPushButton::clicked, this, &AboutForm::Command1_Click);
 
     QFont slanted = PlainFont();
     slanted.setItalic(true);
@@ -127,15 +127,15 @@ void AboutForm::Form_Load() {
 }
 
 void AboutForm::Text1_Change() {
-    Restore(text1, OfficialAddress);
+    Restore(Text1, OfficialAddress);
 }
 
 void AboutForm::Text2_Change() {
-    Restore(text2, FanAddress);
+    Restore(Text2, FanAddress);
 }
 
 void AboutForm::Text3_Change() {
-    Restore(text3, MoreAddress);
+    Restore(Text3, MoreAddress);
 }
 
 void AboutForm::Command1_Click() {

@@ -21,9 +21,9 @@ private:
     void Text3_Change();
     void Command1_Click();
 
-    QLineEdit* text1;
-    QLineEdit* text2;
-    QLineEdit* text3;
+    QLineEdit* Text1;
+    QLineEdit* Text2;
+    QLineEdit* Text3;
 };
 
 } // namespace ksm

@@ -22,9 +22,10 @@ private:
     void Scroll_Change();
     void Command1_Click();
 
-    std::array<CaptionLabel*, MaxDice> places;
-    CaptionLabel* coun;
-    SpinBar* scroll;
+    std::array<CaptionLabel*, MaxDice> Label1;
+    CaptionLabel* Coun;
+    SpinBar* Scroll;
+    int dice = 1; ///< as many as are rolled
 };
 
 } // namespace ksm

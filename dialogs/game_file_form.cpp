@@ -3,14 +3,15 @@
 #include "controls/caption_label.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
+#include "controls/plain_tool_tip.h"
 #include "controls/shape_frame.h"
+#include "controls/twips.h"
 
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QTextDocument>
 
 namespace ksm {
 
@@ -38,7 +39,7 @@ QStringList GameFiles() {
 
 GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
     : FixedDialog(design.FormName, design.Title, Client, owner), look(design),
-      file1(new QListWidget(this)), fileNam(new QLineEdit(DefaultName, this)) {
+      File1(new QListWidget(this)), FileNam(new QLineEdit(DefaultName, this)) {
     setModal(true);
     BuildControls();
     PlaceFromOwner(FromOwner);
@@ -47,25 +48,24 @@ GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
 void GameFileForm::BuildControls() {
     new ShapeFrame("Shape1", FramePlace, 6, this);
 
-    file1->setObjectName("File1");
-    file1->setAccessibleName("Saved games");
-    file1->setGeometry(look.List);
-    file1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    File1->setObjectName("File1");
+    File1->setAccessibleName("Saved games");
+    File1->setGeometry(look.List);
+    File1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const QString& name : GameFiles()) {
-        auto* item = new QListWidgetItem(name, file1);
+        auto* item = new QListWidgetItem(name, File1);
         item->setSizeHint(ListRow);
-        // Plain text: a name may look like markup.
-        item->setToolTip(Qt::convertFromPlainText(name));
+        item->setToolTip(PlainText(name));
     }
 
     auto* label = new CaptionLabel("Label1", look.Label, this);
     label->SetCaption("Filename:");
 
-    fileNam->setObjectName("FileNam");
-    fileNam->setAccessibleName("Filename");
-    fileNam->setGeometry(look.Box);
-    fileNam->setFont(NarrowFont());
-    fileNam->installEventFilter(this);
+    FileNam->setObjectName("FileNam");
+    FileNam->setAccessibleName("Filename");
+    FileNam->setGeometry(look.Box);
+    FileNam->setFont(NarrowFont());
+    FileNam->installEventFilter(this);
 
     auto* confirm = new QPushButton(look.ButtonCaption, this);
     confirm->setObjectName(look.ButtonName);
@@ -77,20 +77,20 @@ void GameFileForm::BuildControls() {
     cancel->setGeometry(CancelPlace);
 
     setTabOrder(confirm, cancel);
-    setTabOrder(cancel, file1);
-    setTabOrder(file1, fileNam);
+    setTabOrder(cancel, File1);
+    setTabOrder(File1, FileNam);
     connect(confirm, &QPushButton::clicked, this, &GameFileForm::Confirm);
     connect(cancel, &QPushButton::clicked, this, &GameFileForm::Cance_Click);
     // A file is picked by the mouse or with the arrow keys.
-    connect(file1, &QListWidget::itemClicked, this, &GameFileForm::File1_Click);
-    connect(file1, &QListWidget::itemSelectionChanged, this, &GameFileForm::File1_Click);
-    connect(file1, &QListWidget::itemDoubleClicked, this, &GameFileForm::File1_DblClick);
+    connect(File1, &QListWidget::itemClicked, this, &GameFileForm::File1_Click);
+    connect(File1, &QListWidget::itemSelectionChanged, this, &GameFileForm::File1_Click);
+    connect(File1, &QListWidget::itemDoubleClicked, this, &GameFileForm::File1_DblClick);
 }
 
 void GameFileForm::Confirm() {
-    if (!fileNam->text().endsWith(Extension))
-        fileNam->setText(fileNam->text() + Extension);
-    const QString problem = UseFile(fileNam->text());
+    if (!FileNam->text().endsWith(Extension))
+        FileNam->setText(FileNam->text() + Extension);
+    const QString problem = UseFile(FileNam->text());
     if (problem.isEmpty()) {
         accept();
     } else {
@@ -99,7 +99,7 @@ void GameFileForm::Confirm() {
 }
 
 bool GameFileForm::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == fileNam && event->type() == QEvent::MouseButtonRelease &&
+    if (watched == FileNam && event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         FileNam_Click();
     }
@@ -107,8 +107,8 @@ bool GameFileForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GameFileForm::File1_Click() {
-    if (const QListWidgetItem* item = file1->currentItem())
-        fileNam->setText(item->text());
+    if (const QListWidgetItem* item = File1->currentItem())
+        FileNam->setText(item->text());
 }
 
 void GameFileForm::File1_DblClick() {
@@ -118,8 +118,8 @@ void GameFileForm::File1_DblClick() {
 
 // The cursor stands before the extension, ready for the name.
 void GameFileForm::FileNam_Click() {
-    fileNam->setText(Extension);
-    fileNam->setCursorPosition(0);
+    FileNam->setText(Extension);
+    FileNam->setCursorPosition(0);
 }
 
 void GameFileForm::Cance_Click() {

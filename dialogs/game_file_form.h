@@ -48,8 +48,8 @@ private:
     void Cance_Click();
 
     const GameFileDesign& look;
-    QListWidget* file1;
-    QLineEdit* fileNam;
+    QListWidget* File1;
+    QLineEdit* FileNam;
 };
 
 } // namespace ksm

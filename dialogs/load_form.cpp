@@ -1,6 +1,6 @@
 #include "dialogs/load_form.h"
 
-#include "dialogs/game_file.h"
+#include "saves/game_file.h"
 
 namespace ksm {
 
@@ -25,8 +25,9 @@ LoadForm::LoadForm(QWidget* owner) : GameFileForm(Design, owner) {}
 
 QString LoadForm::UseFile(const QString& name) {
     const ReadGameResult result = LoadGameFile(name);
-    if (result.Game)
+    if (result.Game) {
         emit GameLoaded(*result.Game);
+    }
     return result.Problem;
 }
 

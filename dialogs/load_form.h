@@ -14,8 +14,7 @@ public:
     explicit LoadForm(QWidget* owner);
 
 signals:
-    /// A whole and faultless game whose derived figures are still to be computed. Emitted at most
-    /// once, before the dialog closes.
+    /// A whole and faultless game. Emitted at most once, before the dialog closes.
     void GameLoaded(const ksm::GameState& game);
 
 protected:

@@ -1,42 +1,54 @@
 #include "dialogs/note_form.h"
 
-#include "controls/look.h"
 #include "controls/shape_frame.h"
+#include "controls/twips.h"
 #include "model/game_state.h"
 
 #include <QPlainTextEdit>
 
 namespace ksm {
 
-NoteForm::NoteForm(GameState& state, QWidget* owner)
-    : FixedDialog("NoteForm", "Notes", {FromTwips(2415), FromTwips(3735)}, owner), game(state),
-      aant(new QPlainTextEdit(this)) {
-    aant->setObjectName("Aant");
-    aant->setAccessibleName("Notes");
-    aant->setGeometry(FromTwips(120), FromTwips(195), FromTwips(2175), FromTwips(3375));
+NoteForm::NoteForm(GameState& game, QWidget* owner)
+    : FixedDialog("NoteForm", "Notes", {FromTwips(2415), FromTwips(3735)}, owner), state(game),
+      Aant(new QPlainTextEdit(this)) {
+    Aant->setObjectName("Aant");
+    Aant->setAccessibleName("Notes");
+    Aant->setGeometry(TwipsRect(120, 195, 2175, 3375));
     // The box is alone in its window, so Tab is of more use for columns than for leaving it.
-    aant->setTabStopDistance(24);
+    Aant->setTabStopDistance(24);
     new ShapeFrame("Shape1", rect(), 0, this);
     Form_Load();
-    connect(aant, &QPlainTextEdit::textChanged, this, &NoteForm::Aant_Change);
-}
-
-void NoteForm::ShowNotes() {
-    const QString notes = ToQString(game.NotesText);
-    if (notes != aant->toPlainText()) {
-        aant->setPlainText(notes);
-        aant->moveCursor(QTextCursor::End);
-    }
+    connect(Aant, &QPlainTextEdit::textChanged, this, &NoteForm::Aant_Change);
 }
 
 void NoteForm::Form_Load() {
     PlaceFromOwner({FromTwips(8400), FromTwips(3300)});
     ShowNotes();
-    aant->setFocus();
+    Aant->setFocus();
 }
 
+void NoteForm::ShowNotes() {
+    if (state.NotesText != Text()) {
+        Aant->setPlainText(QString::fromStdString(state.NotesText));
+        Aant->moveCursor(QTextCursor::End);
+    }
+}
+
+// Also runs when the box is filled to show the notes.
 void NoteForm::Aant_Change() {
-    game.NotesText = aant->toPlainText().toStdString();
+    std::string text = Text();
+    if (text != state.NotesText) {
+        state.NotesText = std::move(text);
+        emit Changed();
+    }
+}
+
+std::string NoteForm::Text() const {
+    // Asked for plain text, the box would make blanks of no-break spaces.
+    QString text = Aant->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, '\n');
+    text.replace(QChar::LineSeparator, '\n');
+    return text.toStdString();
 }
 
 } // namespace ksm

@@ -15,18 +15,24 @@ class NoteForm : public FixedDialog {
     Q_OBJECT
 
 public:
-    /// `state` must live longer than the window.
-    NoteForm(GameState& state, QWidget* owner);
+    /// `game` must live longer than the window.
+    NoteForm(GameState& game, QWidget* owner);
 
-    /// Shows the game's notes when they came from somewhere else, such as another game.
+    /// Shows the notes, when they came from somewhere else, such as another game.
     void ShowNotes();
+
+signals:
+    /// What the user did is done.
+    void Changed();
 
 private:
     void Form_Load();
     void Aant_Change();
+    /// The text as it was typed.
+    std::string Text() const;
 
-    GameState& game;
-    QPlainTextEdit* aant;
+    GameState& state;
+    QPlainTextEdit* Aant;
 };
 
 } // namespace ksm

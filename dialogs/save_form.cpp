@@ -1,6 +1,6 @@
 #include "dialogs/save_form.h"
 
-#include "dialogs/game_file.h"
+#include "saves/game_file.h"
 
 namespace ksm {
 

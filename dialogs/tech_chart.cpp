@@ -4,8 +4,8 @@ namespace ksm {
 
 namespace {
 
-StrokePair Pair(ChartPoint tip, ChartPoint first, ChartPoint second, Colour ink) {
-    const auto stroke = [tip](ChartPoint offset) {
+StrokePair Pair(Point tip, Point first, Point second, Colour ink) {
+    const auto stroke = [tip](Point offset) {
         return ChartStroke{tip, {tip.X + offset.X, tip.Y + offset.Y}};
     };
     return {stroke(first), stroke(second), ink};
@@ -16,15 +16,15 @@ StrokePair Pair(ChartPoint tip, ChartPoint first, ChartPoint second, Colour ink)
 Colour BoxColour(TechField field) {
     switch (field) {
     case TechField::Yellow:
-        return {192, 192, 0};
+        return colour::DarkYellow;
     case TechField::Green:
-        return {0, 128, 0};
+        return colour::DarkGreen;
     case TechField::Blue:
-        return {0, 0, 128};
+        return colour::Navy;
     case TechField::Red:
-        return {192, 0, 0};
+        return colour::DarkRed;
     }
-    return Black;
+    return colour::Black;
 }
 
 std::vector<StrokePair> StrokePairs(const TechChart& chart) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/colour.h"
+#include "model/point.h"
 
 #include <cstdint>
 #include <string_view>
@@ -19,15 +20,8 @@ inline constexpr int NarrowWidth = 71;
 /// How far a stroke of an arrowhead or diamond reaches to the side, and up or down.
 inline constexpr int StrokeSize = 7;
 
-struct ChartPoint {
-    int X = 0;
-    int Y = 0;
-
-    bool operator==(const ChartPoint&) const = default;
-};
-
 /// Centre of the diamond that explains the diamonds.
-inline constexpr ChartPoint LegendSample{38, 459};
+inline constexpr Point LegendSample{38, 459};
 
 /// The four kinds of technology, each with its own cost.
 enum class TechField : std::uint8_t { Yellow, Green, Blue, Red };
@@ -37,26 +31,18 @@ enum class TechRule : std::uint8_t { AnyOf, AllOf };
 struct Technology {
     std::string_view Name;
     TechField Field = TechField::Yellow;
-    ChartPoint Place; ///< top left corner of the box
+    Point Place; ///< top left corner of the box
     TechRule Rule = TechRule::AnyOf;
     std::vector<int> Sources{}; ///< indices of what leads here; none: free from the start
     int Width = TechBoxWidth;
 };
 
-namespace chart_ink {
-inline constexpr Colour BlackInk{0, 0, 0};
-inline constexpr Colour BlueInk{0, 0, 255};
-inline constexpr Colour GreenInk{0, 128, 0};
-inline constexpr Colour OrangeInk{255, 128, 0};
-inline constexpr Colour RedInk{255, 0, 0};
-} // namespace chart_ink
-
 /// A straight piece of the way from a technology to those it leads to. Pieces that touch belong
 /// together.
 struct Connector {
     Colour Ink;
-    ChartPoint From;
-    ChartPoint To;
+    Point From;
+    Point To;
 };
 
 /// An arrowhead stands at its tip, on the edge of the box that it enters; a diamond at its centre.
@@ -65,7 +51,7 @@ enum class MarkShape : std::uint8_t { ArrowDown, ArrowRight, Diamond };
 
 struct ChartMark {
     MarkShape Shape = MarkShape::ArrowDown;
-    ChartPoint At;
+    Point At;
     Colour Ink;
 };
 
@@ -86,8 +72,8 @@ const TechChart& ExpansionChart();
 Colour BoxColour(TechField field);
 
 struct ChartStroke {
-    ChartPoint From;
-    ChartPoint To;
+    Point From;
+    Point To;
 };
 
 /// Two strokes that meet at `From`: an arrowhead, or the lower or upper half of a diamond.

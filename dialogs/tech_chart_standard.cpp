@@ -7,7 +7,6 @@ namespace {
 
 using enum TechField;
 using enum TechRule;
-using namespace chart_ink;
 
 // One row each, so that a row can be found, read and changed on its own.
 // clang-format off
@@ -39,98 +38,98 @@ std::vector<Technology> Boxes() {
 
 std::vector<Connector> Line1() {
     return {
-        {OrangeInk, {169, 30}, {138, 30}},
-        {OrangeInk, {138, 30}, {138, 222}},
-        {OrangeInk, {138, 222}, {169, 222}},
-        {OrangeInk, {138, 78}, {91, 78}},
-        {OrangeInk, {91, 78}, {91, 110}},
-        {OrangeInk, {207, 184}, {338, 184}},
-        {OrangeInk, {207, 258}, {76, 258}},
-        {OrangeInk, {207, 376}, {338, 376}},
-        {BlackInk, {69, 47}, {69, 110}},
-        {BlackInk, {69, 143}, {69, 206}},
-        {BlackInk, {69, 239}, {69, 251}},
-        {BlackInk, {69, 265}, {69, 302}},
-        {BlackInk, {69, 335}, {69, 398}},
-        {BlackInk, {207, 47}, {207, 110}},
-        {BlackInk, {207, 143}, {207, 206}},
-        {BlackInk, {207, 239}, {207, 273}},
-        {BlackInk, {207, 287}, {207, 302}},
-        {BlackInk, {207, 335}, {207, 398}},
-        {BlackInk, {345, 47}, {345, 110}},
-        {BlackInk, {345, 143}, {345, 177}},
-        {BlackInk, {345, 191}, {345, 206}},
-        {BlackInk, {345, 239}, {345, 302}},
-        {BlackInk, {345, 335}, {345, 369}},
-        {BlackInk, {345, 383}, {345, 398}},
-        {BlackInk, {483, 47}, {483, 110}},
-        {BlackInk, {483, 143}, {483, 206}},
-        {BlackInk, {483, 239}, {483, 302}},
-        {BlackInk, {483, 335}, {483, 347}},
-        {BlackInk, {483, 361}, {483, 398}},
+        {colour::Orange, {169, 30}, {138, 30}},
+        {colour::Orange, {138, 30}, {138, 222}},
+        {colour::Orange, {138, 222}, {169, 222}},
+        {colour::Orange, {138, 78}, {91, 78}},
+        {colour::Orange, {91, 78}, {91, 110}},
+        {colour::Orange, {207, 184}, {338, 184}},
+        {colour::Orange, {207, 258}, {76, 258}},
+        {colour::Orange, {207, 376}, {338, 376}},
+        {colour::Black, {69, 47}, {69, 110}},
+        {colour::Black, {69, 143}, {69, 206}},
+        {colour::Black, {69, 239}, {69, 251}},
+        {colour::Black, {69, 265}, {69, 302}},
+        {colour::Black, {69, 335}, {69, 398}},
+        {colour::Black, {207, 47}, {207, 110}},
+        {colour::Black, {207, 143}, {207, 206}},
+        {colour::Black, {207, 239}, {207, 273}},
+        {colour::Black, {207, 287}, {207, 302}},
+        {colour::Black, {207, 335}, {207, 398}},
+        {colour::Black, {345, 47}, {345, 110}},
+        {colour::Black, {345, 143}, {345, 177}},
+        {colour::Black, {345, 191}, {345, 206}},
+        {colour::Black, {345, 239}, {345, 302}},
+        {colour::Black, {345, 335}, {345, 369}},
+        {colour::Black, {345, 383}, {345, 398}},
+        {colour::Black, {483, 47}, {483, 110}},
+        {colour::Black, {483, 143}, {483, 206}},
+        {colour::Black, {483, 239}, {483, 302}},
+        {colour::Black, {483, 335}, {483, 347}},
+        {colour::Black, {483, 361}, {483, 398}},
     };
 }
 
 std::vector<Connector> Line4() {
     return {
-        {BlueInk, {345, 78}, {461, 78}},
-        {BlueInk, {461, 78}, {461, 110}},
-        {BlueInk, {345, 162}, {461, 162}},
-        {BlueInk, {461, 162}, {461, 206}},
-        {BlueInk, {414, 162}, {414, 270}},
-        {BlueInk, {414, 270}, {461, 270}},
-        {BlueInk, {461, 270}, {461, 302}},
-        {BlueInk, {345, 280}, {214, 280}},
-        {BlueInk, {345, 354}, {476, 354}},
+        {colour::Blue, {345, 78}, {461, 78}},
+        {colour::Blue, {461, 78}, {461, 110}},
+        {colour::Blue, {345, 162}, {461, 162}},
+        {colour::Blue, {461, 162}, {461, 206}},
+        {colour::Blue, {414, 162}, {414, 270}},
+        {colour::Blue, {414, 270}, {461, 270}},
+        {colour::Blue, {461, 270}, {461, 302}},
+        {colour::Blue, {345, 280}, {214, 280}},
+        {colour::Blue, {345, 354}, {476, 354}},
     };
 }
 
 std::vector<Connector> Line5() {
     return {
-        {GreenInk, {69, 366}, {185, 366}},
-        {GreenInk, {185, 366}, {185, 398}},
+        {colour::DarkGreen, {69, 366}, {185, 366}},
+        {colour::DarkGreen, {185, 366}, {185, 398}},
     };
 }
 
 std::vector<Connector> Line6() {
     return {
-        {RedInk, {522, 126}, {538, 126}},
-        {RedInk, {538, 126}, {538, 354}},
-        {RedInk, {538, 354}, {490, 354}},
+        {colour::Red, {522, 126}, {538, 126}},
+        {colour::Red, {538, 126}, {538, 354}},
+        {colour::Red, {538, 354}, {490, 354}},
     };
 }
 
 std::vector<ChartMark> Marks() {
     using enum MarkShape;
     return {
-        {ArrowRight, {169, 222}, OrangeInk},
-        {ArrowDown, {91, 110}, OrangeInk},
-        {ArrowDown, {69, 110}, BlackInk},
-        {ArrowDown, {69, 206}, BlackInk},
-        {Diamond, {69, 258}, BlackInk},
-        {ArrowDown, {69, 302}, BlackInk},
-        {ArrowDown, {69, 398}, BlackInk},
-        {ArrowDown, {207, 110}, BlackInk},
-        {ArrowDown, {207, 206}, BlackInk},
-        {Diamond, {207, 280}, BlackInk},
-        {ArrowDown, {207, 302}, BlackInk},
-        {ArrowDown, {207, 398}, BlackInk},
-        {ArrowDown, {345, 110}, BlackInk},
-        {Diamond, {345, 184}, BlackInk},
-        {ArrowDown, {345, 206}, BlackInk},
-        {ArrowDown, {345, 302}, BlackInk},
-        {Diamond, {345, 376}, BlackInk},
-        {ArrowDown, {345, 398}, BlackInk},
-        {ArrowDown, {483, 110}, BlackInk},
-        {ArrowDown, {483, 206}, BlackInk},
-        {ArrowDown, {483, 302}, BlackInk},
-        {Diamond, {483, 354}, BlackInk},
-        {ArrowDown, {483, 398}, BlackInk},
-        {ArrowDown, {461, 110}, BlueInk},
-        {ArrowDown, {461, 206}, BlueInk},
-        {ArrowDown, {461, 302}, BlueInk},
-        {ArrowDown, {185, 398}, GreenInk},
-        {Diamond, LegendSample, BlackInk},
+        {ArrowRight, {169, 222}, colour::Orange},
+        {ArrowDown, {91, 110}, colour::Orange},
+        {ArrowDown, {69, 110}, colour::Black},
+        {ArrowDown, {69, 206}, colour::Black},
+        {Diamond, {69, 258}, colour::Black},
+        {ArrowDown, {69, 302}, colour::Black},
+        {ArrowDown, {69, 398}, colour::Black},
+        {ArrowDown, {207, 110}, colour::Black},
+        {ArrowDown, {207, 206}, colour::Black},
+        {Diamond, {207, 280}, colour::Black},
+        {ArrowDown, {207, 302}, colour::Black},
+        {ArrowDown, {207, 398}, colour::Black},
+        {ArrowDown, {345, 110}, colour::Black},
+        {Diamond, {345, 184}, colour::Black},
+        {ArrowDown, {345, 206}, colour::Black},
+        {ArrowDown, {345, 302}, colour::Black},
+        {Diamond, {345, 376}, colour::Black},
+        {ArrowDown, {345, 398}, colour::Black},
+        {ArrowDown, {483, 110}, colour::Black},
+        {ArrowDown, {483, 206}, colour::Black},
+        {ArrowDown, {483, 302}, colour::Black},
+        {Diamond, {483, 354}, colour::Black},
+        {ArrowDown, {483, 398}, colour::Black},
+        {ArrowDown, {461, 110}, colour::Blue},
+        {ArrowDown, {461, 206}, colour::Blue},
+        {ArrowDown, {461, 302}, colour::Blue},
+        {ArrowDown, {185, 398}, colour::DarkGreen},
+        {Diamond, LegendSample, colour::Black},
     };
 }
 // clang-format on

@@ -1,6 +1,8 @@
 #include "dialogs/tech_form.h"
 
+#include "controls/element_name.h"
 #include "controls/look.h"
+#include "controls/qt_values.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -13,26 +15,21 @@ namespace {
 constexpr int ConnectorWidth = 3;
 constexpr int StrokeWidth = 2;
 
-QPoint ToQPoint(ChartPoint point) {
-    return {point.X, point.Y};
-}
-
 QFont BoxFont() {
     QFont font = NarrowFont();
     font.setBold(true);
     return font;
 }
 
-/// One word a line.
-QString BoxText(std::string_view name) {
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).replace(' ', '\n');
+QString ToQString(std::string_view name) {
+    return QLatin1StringView(name);
 }
 
 /// What the lines that enter a box tell the eye.
 QString Requirement(const Technology& technology, const TechChart& chart) {
     QStringList sources;
     for (const int source : technology.Sources) {
-        sources << ToQString(std::string(chart.Label1.at(static_cast<std::size_t>(source)).Name));
+        sources << ToQString(chart.Label1.at(static_cast<std::size_t>(source)).Name);
     }
     if (sources.isEmpty()) {
         return "free from the start";
@@ -43,7 +40,7 @@ QString Requirement(const Technology& technology, const TechChart& chart) {
 QString AccessibleName(const Technology& technology, const TechChart& chart) {
     constexpr std::array fields{"yellow", "green", "blue", "red"};
     return QString("%1, %2, %3")
-        .arg(ToQString(std::string(technology.Name)),
+        .arg(ToQString(technology.Name),
              QLatin1StringView(fields.at(static_cast<std::size_t>(technology.Field))),
              Requirement(technology, chart));
 }
@@ -54,7 +51,7 @@ QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
     box->setObjectName(ElementName("Label1", index));
     box->setGeometry({ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)});
     box->setFont(BoxFont());
-    box->setText(BoxText(technology.Name));
+    box->setText(ToQString(technology.Name).replace(' ', '\n')); // one word a line
     box->setAccessibleName(AccessibleName(technology, chart));
     box->setAlignment(Qt::AlignCenter);
     QPalette colours = box->palette();

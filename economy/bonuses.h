@@ -9,45 +9,41 @@ namespace ksm {
 // Technologies. `player` is 1..10.
 
 /// Resources for every owned planet, and discount for every owned specialty planet.
-inline int PellamToolsBonus(const GameState& state, int player) {
-    return state.Controls[player].PellamTools ? 1 : 0;
+inline int PellamToolsBonus(const Game& game, int player) {
+    return game.Player(player).PellamTools ? 1 : 0;
 }
 /// Influence: one for each space dock.
-inline int EnviroCompBonus(const GameState& state, int player) {
-    return state.Controls[player].Enviro ? state.Controls[player].SpaceDocks : 0;
+inline int EnviroCompBonus(const Game& game, int player) {
+    return game.Player(player).Enviro ? game.Player(player).SpaceDocks : 0;
 }
-/// Credits: three for each partner among the players in the game.
-int MicroTechBonus(const GameState& state, int player, PartnerSet partners);
-inline int MicroTechBonus(const GameState& state, int player) {
-    return MicroTechBonus(state, player, TradePartners(state, player));
+/// Credits: three for each of the partners who are in the game. `partners` are the player's.
+int MicroTechBonus(const Game& game, int player, PartnerSet partners);
+inline int MicroTechBonus(const Game& game, int player) {
+    return MicroTechBonus(game, player, TradePartners(game, player));
 }
 
 // Races.
 
 /// Influence: one for each agreement in play between any players.
-inline int OrrunBonus(const GameState& state, int player) {
-    return state.Controls[player].Race == Race::Orrun ? state.TradeCount : 0;
+inline int OrrunBonus(const Game& game, int player) {
+    return game.Player(player).Race == Race::Orrun ? game.TradeCount : 0;
 }
 inline bool IsAltheranHome(const PlanetRecord& planet) {
-    return planet.Name == std::string_view("Quessin");
+    return planet.Name == TraitsOf(Race::Altheran).Homes[0];
 }
-int CountAltheranHomes(const GameState& state, int player);
-/// Influence: one for each owned planet other than the home planet. `homes` are the player's.
-inline int AltheranBonus(const GameState& state, int player, int homes) {
-    return state.Controls[player].Race == Race::Altheran ? state.Player(player).PlanetCount - homes
-                                                         : 0;
-}
-inline int AltheranBonus(const GameState& state, int player) {
-    return AltheranBonus(state, player, CountAltheranHomes(state, player));
+/// Influence: one for each owned planet, as last counted, other than the home planet.
+inline int AltheranBonus(const Game& game, int player) {
+    const PlayerRecord& record = game.Player(player);
+    return record.Race == Race::Altheran ? record.PlanetCount - record.AltheranHomes : 0;
 }
 
 // Agreements. `partners` are the player's.
 
 /// Credits: the planets of each partner; the smaller count of the two under Trade Restrictions.
-int TradeBonus(const GameState& state, int player, PartnerSet partners);
+int TradeBonus(const Game& game, int player, PartnerSet partners);
 /// Credits: five for each partner while Free Trade is in force.
-inline int FreeTradeBonus(const GameState& state, PartnerSet partners) {
-    return state.Laws.FreeTrade ? 5 * static_cast<int>(partners.count()) : 0;
+inline int FreeTradeBonus(const Game& game, PartnerSet partners) {
+    return game.Laws.FreeTrade ? 5 * static_cast<int>(partners.count()) : 0;
 }
 
 } // namespace ksm

@@ -1,12 +1,15 @@
 #include "economy/player_column.h"
 
-#include "app/layout.h"
 #include "controls/caption_label.h"
 #include "controls/choice_box.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 #include "controls/shape_frame.h"
 #include "controls/spin_bar.h"
+#include "economy/column_place.h"
+#include "economy/game_setup.h"
 #include "economy/tech_boxes.h"
+#include "model/player_labels.h"
 
 #include <QCheckBox>
 
@@ -14,10 +17,10 @@ namespace ksm {
 
 namespace {
 
-constexpr ColourPair OnGreen{{0, 128, 0}, White};
-constexpr ColourPair OnBlue{{0, 0, 192}, White};
-constexpr ColourPair OnRed{{192, 0, 0}, White};
-constexpr ColourPair OnYellow{{192, 192, 0}, Black};
+constexpr ColourPair OnGreen{colour::DarkGreen, colour::White};
+constexpr ColourPair OnBlue{colour::DarkBlue, colour::White};
+constexpr ColourPair OnRed{colour::DarkRed, colour::White};
+constexpr ColourPair OnYellow{colour::DarkYellow, colour::Black};
 
 void MoveTo(int left, std::initializer_list<QWidget*> controls) {
     for (QWidget* control : controls) {
@@ -27,15 +30,12 @@ void MoveTo(int left, std::initializer_list<QWidget*> controls) {
 
 } // namespace
 
-PlayerColumn::PlayerColumn(GameState& game, int number, const QStringList& races,
+PlayerColumn::PlayerColumn(Game& shown, int number, const QStringList& races,
                            QWidget* mainWindow)
-    : QObject(mainWindow), state(game), player(number), window(mainWindow) {
+    : QObject(mainWindow), game(shown), player(number), window(mainWindow) {
     MakeNames(races);
     MakeFigures();
     MakeTechnologies();
-    ShowPlayer();
-    // The design has the columns of ten players.
-    Place(LayoutForPlayerCount(MaxPlayers).Columns[player]);
 }
 
 QString PlayerColumn::Heading(const char* row) const {
@@ -44,7 +44,7 @@ QString PlayerColumn::Heading(const char* row) const {
 
 CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, const QRect& place) {
     auto* label = new CaptionLabel(ElementName(name, player), place, window);
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    label->SetAlignment(Qt::AlignCenter);
     label->SetHeading(Heading(heading));
     return label;
 }
@@ -53,8 +53,7 @@ CaptionLabel* PlayerColumn::MakeFigure(const char* name, const char* heading, in
     CaptionLabel* label = MakeLabel(name, heading, {0, top, 25, 17});
     label->setFont(PlainFont(FigureText));
     // On one line with the row's heading, which stands a little lower.
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    label->SetCaption("0");
+    label->SetAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     return label;
 }
 
@@ -63,7 +62,6 @@ CaptionLabel* PlayerColumn::MakeCost(const char* name, const char* heading, int 
     CaptionLabel* label = MakeLabel(name, heading, {0, top, 25, 16});
     label->setFont(BoldFont(FigureText));
     label->SetColours(colours);
-    label->SetCaption("30");
     return label;
 }
 
@@ -87,8 +85,7 @@ void PlayerColumn::MakeNames(const QStringList& races) {
     Race->setGeometry(0, 205, 54, 21);
     Race->SetHeading(Heading("Race"));
     connect(PlayerName, &CaptionLabel::Clicked, this, [this] { emit NameClicked(player); });
-    connect(Race, &ChoiceBox::Chosen, this,
-            [this](int index) { emit RaceChosen(player, static_cast<ksm::Race>(index)); });
+    connect(Race, &ChoiceBox::Chosen, this, &PlayerColumn::Race_Click);
 }
 
 void PlayerColumn::MakeFigures() {
@@ -99,10 +96,9 @@ void PlayerColumn::MakeFigures() {
     PlayerCredits->setFont(BoldFont(FigureText));
     SpaceDocks = MakeFigure("SpaceDocks", "Space Docks", 295);
     SpaceDocks->resize(17, 17);
-    SpaceDocks->SetCaption("1");
     DockScroll = new SpinBar(ElementName("DockScroll", player), {0, 290, 17, 25}, window);
-    DockScroll->SetRange(0, MaxSpaceDocks, 0);
     DockScroll->SetCount({.AtZero = MaxSpaceDocks, .Least = 0, .Most = MaxSpaceDocks});
+    DockScroll->SetRange(0, MaxSpaceDocks, MaxSpaceDocks - Record().SpaceDocks);
     DockScroll->setAccessibleName(Heading("Space Docks"));
     connect(DockScroll, &QScrollBar::valueChanged, this, &PlayerColumn::DockScroll_Change);
 }
@@ -111,7 +107,6 @@ void PlayerColumn::MakeTechnologies() {
     Enviro = MakeBox("Enviro", "Enviro Comp.", 322);
     PellamTools = MakeBox("PellamTools", "Pellam Tools", 336);
     Micro = MakeBox("Micro", "Micro Tech.", 350);
-    EnableTechBoxes();
     connect(Enviro, &QCheckBox::toggled, this, &PlayerColumn::Enviro_Click);
     connect(PellamTools, &QCheckBox::toggled, this, &PlayerColumn::PellamTools_Click);
     connect(Micro, &QCheckBox::toggled, this, &PlayerColumn::Micro_Click);
@@ -121,11 +116,8 @@ void PlayerColumn::MakeTechnologies() {
     PlayerYellowTech = MakeCost("PlayerYellowTech", "Yellow technology cost", 424, OnYellow);
 }
 
-void PlayerColumn::Form_Load() {
-    DockScroll->setValue(MaxSpaceDocks - 1);
-}
-
-void PlayerColumn::Place(const ColumnPlace& place) {
+void PlayerColumn::Place() {
+    const ColumnPlace place = PlaceOfColumn(player, game.NumPlayers);
     PlayerName->setGeometry(place.Left, PlayerName->y(), place.NameWidth, PlayerName->height());
     RaceLabel->setGeometry(place.Left, RaceLabel->y(), place.NameWidth, RaceLabel->height());
     Race->setGeometry(place.Left + 1, Race->y(), place.RaceWidth, Race->height());
@@ -137,55 +129,67 @@ void PlayerColumn::Place(const ColumnPlace& place) {
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});
 }
 
-void PlayerColumn::Show(bool visible) {
+void PlayerColumn::SetVisible(bool visible) {
     for (QWidget* control : std::initializer_list<QWidget*>{
-             PlayerName, StatLine, RaceLabel, Race, PlayerResources, PlayerInfluence, PlayerPlanets,
+             PlayerName, StatLine, RaceLabel, PlayerResources, PlayerInfluence, PlayerPlanets,
              PlayerCredits, SpaceDocks, DockScroll, Enviro, PellamTools, Micro, PlayerGreenTech,
              PlayerBlueTech, PlayerRedTech, PlayerYellowTech}) {
         control->setVisible(visible);
     }
+    ShowPhase();
 }
 
-void PlayerColumn::ShowRaceBox(bool visible) {
-    Race->setVisible(visible);
+void PlayerColumn::ShowPhase() {
+    Race->setVisible(!game.Started && player <= game.NumPlayers);
 }
 
 void PlayerColumn::ShowPlayer() {
-    PlayerName->SetCaption(ToQString(PlayerCaption(state, player)));
-    PlayerName->SetColours(Inputs().NameColours);
-    RaceLabel->SetCaption(QLatin1StringView(Caption(Inputs().Race)));
-    Race->ShowChoice(Inputs().Race == ksm::Race::None ? -1 : static_cast<int>(Inputs().Race));
+    PlayerName->SetCaption(QString::fromStdString(PlayerCaption(game, player)));
+    PlayerName->SetColours(Record().NameColours);
+    RaceLabel->SetCaption(QLatin1StringView(TraitsOf(Record().Race).Caption));
+    Race->ShowChoice(Record().Race == ksm::Race::None ? -1 : static_cast<int>(Record().Race));
 }
 
 void PlayerColumn::ShowValues() {
-    const PlayerRecord& record = state.Player(player);
-    PlayerResources->SetCaption(QString::number(record.Resources));
-    PlayerInfluence->SetCaption(QString::number(record.Influence));
-    PlayerPlanets->SetCaption(QString::number(record.PlanetCount));
-    PlayerCredits->SetCaption(QString::number(record.Credits));
-    PlayerGreenTech->SetCaption(QString::number(record.GreenTech));
-    PlayerBlueTech->SetCaption(QString::number(record.BlueTech));
-    PlayerRedTech->SetCaption(QString::number(record.RedTech));
-    PlayerYellowTech->SetCaption(QString::number(record.YellowTech));
-    SpaceDocks->SetCaption(QString::number(Inputs().SpaceDocks));
-    DockScroll->setValue(MaxSpaceDocks - Inputs().SpaceDocks);
-    Enviro->setChecked(Inputs().Enviro);
-    PellamTools->setChecked(Inputs().PellamTools);
-    Micro->setChecked(Inputs().Micro);
-    EnableTechBoxes();
+    PlayerResources->SetCaption(QString::number(Record().Resources));
+    PlayerInfluence->SetCaption(QString::number(Record().Influence));
+    PlayerPlanets->SetCaption(QString::number(Record().PlanetCount));
+    PlayerCredits->SetCaption(QString::number(Record().Credits));
+    PlayerGreenTech->SetCaption(QString::number(Record().GreenTech));
+    PlayerBlueTech->SetCaption(QString::number(Record().BlueTech));
+    PlayerRedTech->SetCaption(QString::number(Record().RedTech));
+    PlayerYellowTech->SetCaption(QString::number(Record().YellowTech));
+    SpaceDocks->SetCaption(QString::number(Record().SpaceDocks));
+    DockScroll->setValue(MaxSpaceDocks - Record().SpaceDocks);
+    ShowTechBoxes();
+}
+
+void PlayerColumn::ShowTechBoxes() {
+    Enviro->setChecked(Record().Enviro);
+    PellamTools->setChecked(Record().PellamTools);
+    PellamTools->setEnabled(Record().PellamToolsEnabled);
+    Micro->setChecked(Record().Micro);
+    Micro->setEnabled(Record().MicroEnabled);
 }
 
 QPoint PlayerColumn::NamePlace() const {
     return PlayerName->pos();
 }
 
-// The handlers below also run when ShowValues sets a control: they act on what differs from the
-// game only.
+void PlayerColumn::Race_Click(int index) {
+    ChooseRace(game, player, static_cast<ksm::Race>(index));
+    ShowPlayer();
+    emit InputChanged();
+    emit Changed();
+}
+
+// The handlers below also run when a control is set to show the game: they act on what differs from
+// the game only.
 
 void PlayerColumn::DockScroll_Change(int value) {
     const int docks = MaxSpaceDocks - value;
-    if (docks != Inputs().SpaceDocks) {
-        Inputs().SpaceDocks = docks;
+    if (docks != Record().SpaceDocks) {
+        Record().SpaceDocks = docks;
         SpaceDocks->SetCaption(QString::number(docks));
         SpaceDocks_Change();
     }
@@ -193,34 +197,33 @@ void PlayerColumn::DockScroll_Change(int value) {
 
 void PlayerColumn::SpaceDocks_Change() {
     emit InputChanged();
+    emit Changed();
 }
 
 void PlayerColumn::Enviro_Click(bool checked) {
-    if (checked != Inputs().Enviro) {
-        Inputs().Enviro = checked;
+    if (checked != Record().Enviro) {
+        Record().Enviro = checked;
         emit InputChanged();
-        UpdateTechBoxes(Inputs());
-        EnableTechBoxes();
+        UpdateTechBoxes(Record());
+        ShowTechBoxes();
+        emit Changed();
     }
 }
 
 void PlayerColumn::PellamTools_Click(bool checked) {
-    if (checked != Inputs().PellamTools) {
-        Inputs().PellamTools = checked;
+    if (checked != Record().PellamTools) {
+        Record().PellamTools = checked;
         emit InputChanged();
+        emit Changed();
     }
 }
 
 void PlayerColumn::Micro_Click(bool checked) {
-    if (checked != Inputs().Micro) {
-        Inputs().Micro = checked;
+    if (checked != Record().Micro) {
+        Record().Micro = checked;
         emit InputChanged();
+        emit Changed();
     }
-}
-
-void PlayerColumn::EnableTechBoxes() {
-    PellamTools->setEnabled(Inputs().PellamToolsEnabled);
-    Micro->setEnabled(Inputs().MicroEnabled);
 }
 
 } // namespace ksm

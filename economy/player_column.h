@@ -16,23 +16,20 @@ class CaptionLabel;
 class ChoiceBox;
 class LineControl;
 class SpinBar;
-struct ColumnPlace;
 
 class PlayerColumn : public QObject {
     Q_OBJECT
 
 public:
     /// `races` are the entries of the race box, in the order of `Race`.
-    PlayerColumn(GameState& state, int player, const QStringList& races, QWidget* window);
+    PlayerColumn(Game& shown, int number, const QStringList& races, QWidget* mainWindow);
 
-    /// Writes the space docks as the user's hand would.
-    void Form_Load();
-
-    void Place(const ColumnPlace& place);
-    /// Shows or hides every control of the column, the race box included.
-    void Show(bool visible);
-    /// The race box lies over the race label until the game starts.
-    void ShowRaceBox(bool visible);
+    /// Places the column for the number of players.
+    void Place();
+    /// Shows or hides every control of the column.
+    void SetVisible(bool visible);
+    /// The race box of a player in the game lies over the race label until the game starts.
+    void ShowPhase();
 
     /// Shows name, colours and race.
     void ShowPlayer();
@@ -43,9 +40,10 @@ public:
     QPoint NamePlace() const;
 
 signals:
-    /// An input of the rules changed.
+    /// An input of the figures changed: they are recomputed and shown before this returns.
     void InputChanged();
-    void RaceChosen(int player, ksm::Race race);
+    /// What the user did is done.
+    void Changed();
     void NameClicked(int player);
 
 private:
@@ -59,16 +57,17 @@ private:
     QCheckBox* MakeBox(const char* name, const char* heading, int top);
     QString Heading(const char* row) const;
 
+    void Race_Click(int index);
     void DockScroll_Change(int value);
     void SpaceDocks_Change();
     void Enviro_Click(bool checked);
     void PellamTools_Click(bool checked);
     void Micro_Click(bool checked);
-    void EnableTechBoxes();
+    void ShowTechBoxes();
 
-    PlayerControls& Inputs() { return state.Controls[player]; }
+    PlayerRecord& Record() { return game.Player(player); }
 
-    GameState& state;
+    Game& game;
     const int player;
     QWidget* window;
 

@@ -27,32 +27,32 @@ constexpr std::array<RowHeading, 10> RowHeadings{{
 QStringList RaceNames() {
     QStringList names;
     for (int race = 0; race < RaceCount; ++race) {
-        names << QLatin1StringView(Caption(static_cast<Race>(race)));
+        names << QLatin1StringView(TraitsOf(static_cast<Race>(race)).Caption);
     }
     return names;
 }
 
 } // namespace
 
-PlayerTable::PlayerTable(GameState& state, QWidget* window) : QObject(window) {
+PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
     for (const RowHeading& heading : RowHeadings) {
         auto* label = new CaptionLabel(QString(), heading.Place, window);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->SetAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->SetCaption(heading.Caption);
     }
     const QStringList races = RaceNames();
     for (int player = 1; player <= MaxPlayers; ++player) {
-        auto* column = new PlayerColumn(state, player, races, window);
+        auto* column = new PlayerColumn(game, player, races, window);
         connect(column, &PlayerColumn::InputChanged, this, &PlayerTable::InputChanged);
-        connect(column, &PlayerColumn::RaceChosen, this, &PlayerTable::RaceChosen);
+        connect(column, &PlayerColumn::Changed, this, &PlayerTable::Changed);
         connect(column, &PlayerColumn::NameClicked, this, &PlayerTable::NameClicked);
         columns[player] = column;
     }
 }
 
-void PlayerTable::Form_Load() {
+void PlayerTable::ShowPhase() {
     for (PlayerColumn* column : columns) {
-        column->Form_Load();
+        column->ShowPhase();
     }
 }
 

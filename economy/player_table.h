@@ -2,6 +2,7 @@
 #pragma once
 
 #include "economy/player_column.h"
+#include "model/per_player.h"
 
 namespace ksm {
 
@@ -10,18 +11,20 @@ class PlayerTable : public QObject {
     Q_OBJECT
 
 public:
-    PlayerTable(GameState& state, QWidget* window);
+    PlayerTable(Game& game, QWidget* window);
 
     PlayerColumn& Column(int player) { return *columns[player]; }
 
-    /// Writes the space docks of every player as the user's hand would.
-    void Form_Load();
+    /// Shows the race boxes until the game starts.
+    void ShowPhase();
     /// Shows the figures, docks and technologies of all players.
     void ShowValues();
 
 signals:
+    /// An input of the figures changed: they are recomputed and shown before this returns.
     void InputChanged();
-    void RaceChosen(int player, ksm::Race race);
+    /// What the user did is done.
+    void Changed();
     void NameClicked(int player);
 
 private:

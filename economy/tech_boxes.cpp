@@ -2,17 +2,17 @@
 
 namespace ksm {
 
-void UpdateTechBoxes(PlayerControls& controls) {
-    if (controls.Enviro) {
-        controls.PellamToolsEnabled = true;
-        controls.MicroEnabled = true;
+void UpdateTechBoxes(PlayerRecord& player) {
+    if (player.Enviro) {
+        player.PellamToolsEnabled = true;
+        player.MicroEnabled = true;
     } else {
-        controls.PellamToolsEnabled = controls.PellamToolsEnabled && controls.PellamTools;
-        controls.MicroEnabled = controls.MicroEnabled && controls.Micro;
+        player.PellamToolsEnabled = player.PellamToolsEnabled && player.PellamTools;
+        player.MicroEnabled = player.MicroEnabled && player.Micro;
     }
-    if (controls.PellamTools) {
-        controls.PellamToolsEnabled = true;
-        controls.MicroEnabled = true;
+    if (player.PellamTools) {
+        player.PellamToolsEnabled = true;
+        player.MicroEnabled = true;
     }
 }
 

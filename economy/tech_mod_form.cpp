@@ -1,8 +1,9 @@
 #include "economy/tech_mod_form.h"
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/framed_bar.h"
-#include "controls/look.h"
+#include "controls/twips.h"
 #include "model/bounds.h"
 
 namespace ksm {
@@ -17,15 +18,11 @@ struct ColourColumn {
 };
 
 constexpr std::array<ColourColumn, 4> Columns{{
-    {"Green", 120, 480, {{0, 128, 0}, White}},
-    {"Blue", 960, 1320, {{0, 0, 255}, White}},
-    {"Red", 1800, 2160, {{255, 0, 0}, White}},
-    {"Yellow", 2640, 3000, {{192, 192, 0}, Black}},
+    {"Green", 120, 480, {colour::DarkGreen, colour::White}},
+    {"Blue", 960, 1320, {colour::Blue, colour::White}},
+    {"Red", 1800, 2160, {colour::Red, colour::White}},
+    {"Yellow", 2640, 3000, {colour::DarkYellow, colour::Black}},
 }};
-
-QRect PlaceInTwips(int left, int top, int width, int height) {
-    return {FromTwips(left), FromTwips(top), FromTwips(width), FromTwips(height)};
-}
 
 QString Signed(int modifier) {
     return (modifier > 0 ? "+" : "") + QString::number(modifier);
@@ -43,21 +40,21 @@ TechModForm::TechModForm(QWidget* owner)
         const QString meaning = QString("%1 cost modifier").arg(column.Name);
 
         auto* label = new CaptionLabel(ElementName("TechModLabel", index),
-                                       PlaceInTwips(column.LabelLeft, 600, 255, 255), this);
+                                       TwipsRect(column.LabelLeft, 600, 255, 255), this);
         label->SetColours(column.Colours);
         label->SetHeading(meaning);
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        label->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
         label->SetCaption("0");
-        labels[at] = label;
+        TechModLabel[at] = label;
 
         auto* bar = new FramedBar(ElementName("VScroll1", index),
-                                  PlaceInTwips(column.BarLeft, 120, 255, 1215), this);
+                                  TwipsRect(column.BarLeft, 120, 255, 1215), this);
         bar->setAccessibleName(meaning);
         bar->SetCount(
             {.AtZero = NeutralModifier, .Least = -NeutralModifier, .Most = NeutralModifier});
         bar->SetRange(0, MaxModifier, NeutralModifier);
         connect(bar, &FramedBar::valueChanged, this, [this, index] { VScroll1_Change(index); });
-        bars[at] = bar;
+        VScroll1[at] = bar;
     }
     // In the middle of the upper half, where it leaves the costs in view.
     PlaceFromOwner({204, 70});
@@ -65,8 +62,8 @@ TechModForm::TechModForm(QWidget* owner)
 
 void TechModForm::VScroll1_Change(int index) {
     const auto at = static_cast<std::size_t>(index);
-    const int position = bars[at]->value();
-    labels[at]->SetCaption(Signed(NeutralModifier - position));
+    const int position = VScroll1[at]->value();
+    TechModLabel[at]->SetCaption(Signed(NeutralModifier - position));
     emit ModifierChanged(index, MaxModifier - position);
 }
 

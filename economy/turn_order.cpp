@@ -3,29 +3,42 @@
 #include "trade/trade_agreements.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace ksm {
 
-std::array<TurnOrderRow, MaxPlayers> TurnOrder(const GameState& state) {
-    std::array<TurnOrderRow, MaxPlayers> rows;
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        const bool dravik = state.Controls[player].Race == Race::Dravik;
-        rows[static_cast<std::size_t>(player - 1)] = {
-            player, dravik && TradePartners(state, player).none()};
+namespace {
+
+/// Whether player `one` moves before player `other`.
+bool MovesBefore(const Game& game, int one, int other) {
+    const PlayerRecord& a = game.Player(one);
+    const PlayerRecord& b = game.Player(other);
+    if (a.Influence != b.Influence) {
+        return a.Influence > b.Influence;
     }
-    const bool houseRules = state.Laws.OrlenHouseRules;
-    std::ranges::sort(rows, [&](const TurnOrderRow& one, const TurnOrderRow& other) {
-        const PlayerRecord& a = state.Player(one.Player);
-        const PlayerRecord& b = state.Player(other.Player);
-        if (a.Influence != b.Influence) {
-            return a.Influence > b.Influence;
-        }
-        if (a.Resources != b.Resources) {
-            return houseRules ? a.Resources < b.Resources : a.Resources > b.Resources;
-        }
-        return one.Player < other.Player;
-    });
-    return rows;
+    if (a.Resources != b.Resources) {
+        return game.Laws.OrlenHouseRules ? a.Resources < b.Resources : a.Resources > b.Resources;
+    }
+    return one < other;
+}
+
+} // namespace
+
+void TurnOrder(Game& game) {
+    std::array<int, MaxPlayers> turnOrderSlots{};
+    std::iota(turnOrderSlots.begin(), turnOrderSlots.end(), 1);
+    std::ranges::sort(turnOrderSlots,
+                      [&](int one, int other) { return MovesBefore(game, one, other); });
+    auto row = game.TurnOrderRows.begin();
+    for (const int player : turnOrderSlots) {
+        const PlayerRecord& record = game.Player(player);
+        *row++ = {.Player = player,
+                  .Name = record.Name,
+                  .Resources = record.Resources,
+                  .Influence = record.Influence,
+                  .Italic =
+                      record.Race == Race::Dravik && TradePartners(game, player).none()};
+    }
 }
 
 } // namespace ksm

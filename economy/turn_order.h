@@ -3,20 +3,11 @@
 
 #include "model/game_state.h"
 
-#include <array>
-
 namespace ksm {
 
-struct TurnOrderRow {
-    int Player = 0; ///< 1..10
-    /// A Dravik player without any agreement is written in italics.
-    bool Italic = false;
-
-    bool operator==(const TurnOrderRow&) const = default;
-};
-
-/// All ten slots, highest influence first. Equal influence: more resources first, or fewer under
-/// the Orlen house rules; equal in both: the lower player number first.
-std::array<TurnOrderRow, MaxPlayers> TurnOrder(const GameState& state);
+/// Ranks all ten slots by the figures last computed and writes the rows of the summary table:
+/// highest influence first. Equal influence: more resources first, or fewer under the Orlen house
+/// rules; equal in both: the lower player number first.
+void TurnOrder(Game& game);
 
 } // namespace ksm

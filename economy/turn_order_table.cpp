@@ -1,6 +1,7 @@
 #include "economy/turn_order_table.h"
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 
 namespace ksm {
@@ -33,14 +34,13 @@ void SetItalic(CaptionLabel& label, bool italic) {
 
 } // namespace
 
-TurnOrderTable::TurnOrderTable(const GameState& game, QWidget* parent)
-    : QWidget(parent), state(game) {
+TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     setObjectName("UpLefPic");
     setGeometry(Panel);
     for (const Heading& heading : Headings) {
         auto* label = new CaptionLabel(QString(), heading.Place, this);
         label->setFont(BoldFont());
-        label->setAlignment(heading.Alignment | Qt::AlignVCenter);
+        label->SetAlignment(heading.Alignment | Qt::AlignVCenter);
         label->SetCaption(heading.Caption);
     }
     for (int number = 1; number <= MaxPlayers; ++number) {
@@ -50,17 +50,16 @@ TurnOrderTable::TurnOrderTable(const GameState& game, QWidget* parent)
 
 TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
     const int top = 17 + 16 * (number - 1);
-    const auto cell = [&](const char* name, int left, int width, const char* caption) {
+    const auto cell = [&](const char* name, int left, int width) {
         auto* label =
             new CaptionLabel(ElementName(name, number), {left, top, width, RowHeight}, this);
-        label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-        label->SetCaption(caption);
+        label->SetAlignment(Qt::AlignCenter);
         return label;
     };
-    const Row row{.PolPlay = cell("PolPlay", 16, 65, "Player"),
-                  .PRes = cell("PRes", 88, 25, "0"),
-                  .PInf = cell("PInf", 128, 25, "0")};
-    row.PolPlay->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const Row row{.PolPlay = cell("PolPlay", 16, 65),
+                  .PRes = cell("PRes", 88, 25),
+                  .PInf = cell("PInf", 128, 25)};
+    row.PolPlay->SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     row.PRes->setFont(PlainFont(FigureText));
     row.PInf->setFont(PlainFont(FigureText));
     row.PolPlay->SetHeading(tr("Place %1").arg(number));
@@ -71,19 +70,18 @@ TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
 
 void TurnOrderTable::ShowTurnOrder() {
     int number = 0;
-    for (const TurnOrderRow& ranked : TurnOrder(state)) {
-        const PlayerRecord& player = state.Player(ranked.Player);
+    for (const TurnOrderRow& ranked : game.TurnOrderRows) {
         const Row& row = rows[++number];
-        row.PolPlay->SetCaption(ToQString(player.Name));
-        row.PRes->SetCaption(QString::number(player.Resources));
-        row.PInf->SetCaption(QString::number(player.Influence));
+        row.PolPlay->SetCaption(QString::fromStdString(ranked.Name));
+        row.PRes->SetCaption(QString::number(ranked.Resources));
+        row.PInf->SetCaption(QString::number(ranked.Influence));
         for (CaptionLabel* label : {row.PolPlay, row.PRes, row.PInf}) {
             SetItalic(*label, ranked.Italic);
         }
     }
 }
 
-void TurnOrderTable::ShowRow(int row, bool visible) {
+void TurnOrderTable::SetRowVisible(int row, bool visible) {
     for (CaptionLabel* label : {rows[row].PolPlay, rows[row].PRes, rows[row].PInf}) {
         label->setVisible(visible);
     }

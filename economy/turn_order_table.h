@@ -1,7 +1,8 @@
 // The summary table at the top left: the players in the order of play.
 #pragma once
 
-#include "economy/turn_order.h"
+#include "model/game_state.h"
+#include "model/per_player.h"
 
 #include <QWidget>
 
@@ -14,11 +15,11 @@ class TurnOrderTable : public QWidget {
     Q_OBJECT
 
 public:
-    TurnOrderTable(const GameState& state, QWidget* parent);
+    TurnOrderTable(const Game& shown, QWidget* parent);
 
-    /// Ranks the players and rewrites all ten rows.
+    /// Shows the players as they were last ranked.
     void ShowTurnOrder();
-    void ShowRow(int row, bool visible);
+    void SetRowVisible(int row, bool visible);
 
 private:
     struct Row {
@@ -29,7 +30,7 @@ private:
 
     Row MakeRow(int number);
 
-    const GameState& state;
+    const Game& game;
     PerPlayer<Row> rows;
 };
 

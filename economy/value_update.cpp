@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
-#include <span>
 #include <utility>
 
 namespace ksm {
@@ -32,10 +31,9 @@ int CountAgreements(const TradeTable& table) {
     return agreements;
 }
 
-Holdings AddUpPlanets(const GameState& state) {
+Holdings AddUpPlanets(const Game& game) {
     Holdings holdings;
-    const std::span loaded(state.Planets.data(), static_cast<std::size_t>(state.NumPlanets));
-    for (const PlanetRecord& planet : loaded) {
+    for (const PlanetRecord& planet : game.LoadedPlanets()) {
         const auto specialty = static_cast<std::size_t>(planet.Specialty);
         Holding& holding = holdings[planet.Owner];
         holding.Planets[specialty] += 1;
@@ -54,6 +52,7 @@ void TakeHolding(PlayerRecord& player, const Holding& holding, int pellamTools) 
         return holding.Resources[place] + pellamTools * holding.Planets[place];
     };
     player.PlanetCount = std::reduce(holding.Planets.begin(), holding.Planets.end());
+    player.AltheranHomes = holding.AltheranHomes;
     player.Influence = player.PlanetInfluence = holding.Influence;
     player.RedDiscount = resources(Specialty::Red);
     player.BlueDiscount = resources(Specialty::Blue);
@@ -62,44 +61,44 @@ void TakeHolding(PlayerRecord& player, const Holding& holding, int pellamTools) 
                                                 player.BlueDiscount + player.GreenDiscount;
 }
 
-void ComputeCosts(const GameState& state, PlayerRecord& player) {
+void ComputeCosts(const Game& game, PlayerRecord& player) {
     player.RedDiscount = std::min<int>(player.RedDiscount, player.RedCost);
     player.BlueDiscount = std::min<int>(player.BlueDiscount, player.BlueCost);
     player.GreenDiscount = std::min<int>(player.GreenDiscount, player.GreenCost);
-    player.RedTech = player.RedCost - player.RedDiscount + state.RedModifier - NeutralModifier;
-    player.BlueTech = player.BlueCost - player.BlueDiscount + state.BlueModifier - NeutralModifier;
+    player.RedTech = player.RedCost - player.RedDiscount + game.RedModifier - NeutralModifier;
+    player.BlueTech = player.BlueCost - player.BlueDiscount + game.BlueModifier - NeutralModifier;
     player.GreenTech =
-        player.GreenCost - player.GreenDiscount + state.GreenModifier - NeutralModifier;
-    player.YellowTech = player.YellowCost + state.YellowModifier - NeutralModifier;
+        player.GreenCost - player.GreenDiscount + game.GreenModifier - NeutralModifier;
+    player.YellowTech = player.YellowCost + game.YellowModifier - NeutralModifier;
 }
 
-void ComputePlayer(GameState& state, int number, int altheranHomes) {
-    PlayerRecord& player = state.Player(number);
-    player.Influence += EnviroCompBonus(state, number) + OrrunBonus(state, number) +
-                        AltheranBonus(state, number, altheranHomes);
-    if (state.Laws.LabourUnion) {
+void ComputePlayer(Game& game, int number) {
+    PlayerRecord& player = game.Player(number);
+    player.Influence += EnviroCompBonus(game, number) + OrrunBonus(game, number) +
+                        AltheranBonus(game, number);
+    if (game.Laws.LabourUnion) {
         std::swap(player.Resources, player.Influence);
         player.PlanetResources = player.Resources;
     }
-    const PartnerSet partners = TradePartners(state, number);
-    player.Credits = player.PlanetResources + TradeBonus(state, number, partners) +
-                     FreeTradeBonus(state, partners) + MicroTechBonus(state, number, partners);
-    ComputeCosts(state, player);
+    const PartnerSet partners = TradePartners(game, number);
+    player.Credits = player.PlanetResources + TradeBonus(game, number, partners) +
+                     FreeTradeBonus(game, partners) + MicroTechBonus(game, number, partners);
+    ComputeCosts(game, player);
 }
 
 } // namespace
 
-void UpdateValues(GameState& state) {
-    state.TradeCount = CountAgreements(state.TradeAgreements);
-    const Holdings holdings = AddUpPlanets(state);
+void UpdateValues(Game& game) {
+    game.TradeCount = CountAgreements(game.TradeAgreements);
+    const Holdings holdings = AddUpPlanets(game);
     // The pool's planets are counted, and bring nothing.
-    TakeHolding(state.Player(NeutralOwner), {.Planets = holdings[NeutralOwner].Planets}, 0);
+    TakeHolding(game.Player(NeutralOwner), {.Planets = holdings[NeutralOwner].Planets}, 0);
     for (int number = 1; number <= MaxPlayers; ++number) {
-        TakeHolding(state.Player(number), holdings[static_cast<std::size_t>(number)],
-                    PellamToolsBonus(state, number));
+        TakeHolding(game.Player(number), holdings[static_cast<std::size_t>(number)],
+                    PellamToolsBonus(game, number));
     }
     for (int number = 1; number <= MaxPlayers; ++number) {
-        ComputePlayer(state, number, holdings[static_cast<std::size_t>(number)].AltheranHomes);
+        ComputePlayer(game, number);
     }
 }
 

@@ -7,6 +7,6 @@ namespace ksm {
 
 /// Clears every derived figure of slots 0..10 and the count of agreements, and recomputes them from
 /// the inputs. Calling it twice changes nothing; slots 11 and 12 are never touched.
-void UpdateValues(GameState& state);
+void UpdateValues(Game& game);
 
 } // namespace ksm

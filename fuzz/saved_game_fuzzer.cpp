@@ -1,6 +1,6 @@
 // Reads any bytes as a saved game. A game that is accepted must survive being saved and loaded.
 
-#include "dialogs/game_text.h"
+#include "saves/game_text.h"
 
 #include <cstdlib>
 

@@ -1,8 +1,8 @@
 // Writes seeds for the fuzzers: fuzz_seeds FOLDER, which gets one folder for each target.
 
-#include "dialogs/game_text.h"
 #include "planets/planet_list_file.h"
-#include "sample_game.h"
+#include "saves/game_text.h"
+#include "tests/saves/sample_game.h"
 
 #include <QDir>
 #include <QFile>

@@ -9,6 +9,8 @@ namespace ksm {
 inline constexpr int PlayerSlots = 13;
 inline constexpr int MinPlayers = 2;
 inline constexpr int MaxPlayers = 10;
+/// Each two players hold at most one agreement.
+inline constexpr int MaxAgreements = MaxPlayers * (MaxPlayers - 1) / 2;
 /// Slots 0..10: the pool and the players.
 inline constexpr int OwnerSlots = MaxPlayers + 1;
 inline constexpr int NeutralOwner = 0;
@@ -19,6 +21,8 @@ inline constexpr std::uint8_t NoPlanet = 255;
 
 /// Value of `BoardPlayer` for "All planets", and index of that owner label.
 inline constexpr int AllPlanets = 20;
+/// Index of no owner at all.
+inline constexpr int NoOwner = -1;
 inline constexpr int BoardRowCount = 12;
 
 inline constexpr int MaxSpaceDocks = 10;

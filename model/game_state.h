@@ -2,12 +2,15 @@
 #pragma once
 
 #include "model/bounds.h"
-#include "model/per_player.h"
 #include "model/planet_record.h"
 #include "model/player_record.h"
+#include "model/stroke.h"
+#include "model/turn_order_row.h"
 
 #include <array>
+#include <bitset>
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace ksm {
@@ -41,13 +44,12 @@ struct LawMarks {
     bool operator==(const LawMarks&) const = default;
 };
 
-struct GameState {
+/// The game itself.
+struct Game {
     /// A game before its planet list is read: six players, every control as designed.
-    GameState();
+    Game();
 
     std::array<PlayerRecord, PlayerSlots> Players;
-    PerPlayer<PlayerControls> Controls;
-
     PlanetTable Planets;
     int NumPlanets = 0; ///< loaded planets, in slots 0..NumPlanets - 1
 
@@ -61,6 +63,8 @@ struct GameState {
     std::string TradeInfo; ///< the trade panel's prompt or result; lines end with CR LF
     int IndepFirst = 0;    ///< pair under Economic Independence, 0 = none
     int IndepSecond = 0;
+    /// What was drawn stays as it was drawn, whatever colours and places become.
+    Strokes TradeStrokes;
 
     LawMarks Laws;
     // 0..30; 15 leaves the costs of that colour as they are.
@@ -69,12 +73,10 @@ struct GameState {
     std::int16_t YellowModifier = NeutralModifier;
     std::int16_t RedModifier = NeutralModifier;
 
-    int BoardPlayer = AllPlanets; ///< owner listed on the board: 0, 1..10 or `AllPlanets`
-    int BoardPosition = 0;        ///< the board's scroll position
-    int EditedPlayer = 0;         ///< player in the name dialog, 0 before its first use
-    std::string NotesText;        ///< UTF-8
+    /// Derived by TurnOrder; the player who moves first stands first.
+    std::array<TurnOrderRow, MaxPlayers> TurnOrderRows;
 
-    bool operator==(const GameState&) const = default;
+    bool operator==(const Game&) const = default;
 
     PlayerRecord& Player(int slot) { return Players.at(static_cast<std::size_t>(slot)); }
     const PlayerRecord& Player(int slot) const {
@@ -84,13 +86,34 @@ struct GameState {
     const PlanetRecord& Planet(int slot) const {
         return Planets.at(static_cast<std::size_t>(slot));
     }
+    std::span<PlanetRecord> LoadedPlanets() {
+        return std::span(Planets).first(static_cast<std::size_t>(NumPlanets));
+    }
+    std::span<const PlanetRecord> LoadedPlanets() const {
+        return std::span(Planets).first(static_cast<std::size_t>(NumPlanets));
+    }
     std::int16_t& Cell(int row, int column);
     std::int16_t Cell(int row, int column) const;
 };
 
-/// Caption of the player's name label in the player table.
-std::string PlayerCaption(const GameState& state, int player);
-/// Caption of the player's owner label on the planet board.
-std::string OwnerCaption(const GameState& state, int player);
+/// How the people at the table look at the game: none of it changes the game.
+struct GameView {
+    int BoardPlayer = AllPlanets; ///< owner listed on the board: 0, 1..10 or `AllPlanets`
+    int BoardPosition = 0;        ///< the board's scroll position
+    int EditedPlayer = 0;         ///< player in the name dialog, 0 before its first use
+    // The red marks of a drag; they can stay when it is over.
+    int MarkedOwner = NoOwner; ///< owner label 0..10
+    std::bitset<BoardRowCount> MarkedRows;
+
+    bool operator==(const GameView&) const = default;
+};
+
+/// Everything that the windows show and no other part of it determines. A copy is a snapshot.
+struct GameState : Game {
+    GameView View;
+    std::string NotesText; ///< UTF-8
+
+    bool operator==(const GameState&) const = default;
+};
 
 } // namespace ksm

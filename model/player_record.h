@@ -21,13 +21,34 @@ constexpr PlanetIndexList EmptyPlanetList() {
 }
 
 struct PlayerRecord {
-    // Inputs.
-    std::string Name; ///< UTF-8, as typed in the name dialog; empty until then
-    PlanetIndexList PlanetList = EmptyPlanetList();
-    std::uint8_t RedCost = BaseTechnologyCost;
+    // Inputs: what the player is called.
+    std::string Name; ///< UTF-8, as typed in the name dialog
+    /// Whether a name was ever typed, be it an empty one. Until then the player's labels read
+    /// "Player 3" and the like.
+    bool Named = false;
+    std::string ShortName;   ///< UTF-8, caption of the trade label
+    ColourPair NameColours;  ///< of the name in the player table
+    ColourPair TradeColours; ///< of the trade label and of the lines of agreements
+
+    // Inputs: what the player has.
+    ksm::Race Race = ksm::Race::None;
+    std::uint8_t RedCost = BaseTechnologyCost; ///< the four base costs follow from the race
     std::uint8_t BlueCost = BaseTechnologyCost;
     std::uint8_t YellowCost = BaseTechnologyCost;
     std::uint8_t GreenCost = BaseTechnologyCost;
+    int SpaceDocks = 1; ///< 0..10
+    bool Enviro = false;
+    bool PellamTools = false;
+    bool Micro = false;
+    // Whether a box can be ticked depends on what happened before, not only on what is ticked.
+    bool PellamToolsEnabled = false;
+    bool MicroEnabled = false;
+    PlanetIndexList PlanetList = EmptyPlanetList();
+
+    /// The number of players when the player was last among them, which says where the player's
+    /// trade label stands. Setup can leave a player out who has agreements: the label is hidden
+    /// then and stays where it was, and the lines of the agreements end there.
+    int TradeRing = MaxPlayers;
 
     // Derived: recomputed as a whole by UpdateValues, wide enough for every legal planet list.
     int Resources = 0;
@@ -35,6 +56,7 @@ struct PlayerRecord {
     int Influence = 0;
     int PlanetInfluence = 0;
     int PlanetCount = 0;
+    int AltheranHomes = 0; ///< how many of the planets are home to the Altheran
     int RedDiscount = 0;
     int BlueDiscount = 0;
     int GreenDiscount = 0;
@@ -46,28 +68,6 @@ struct PlayerRecord {
     int YellowTech = BaseTechnologyCost;
 
     bool operator==(const PlayerRecord&) const = default;
-};
-
-/// The inputs that a player's controls stand for.
-struct PlayerControls {
-    ksm::Race Race = ksm::Race::None;
-    /// Set by the name dialog; until then the player's labels read "Player 3" and the like.
-    bool Named = false;
-    std::string ShortName; ///< UTF-8, caption of the trade label
-    ColourPair NameColours;
-    ColourPair TradeColours;
-    /// For how many players the ring was laid out in which the trade label last stood: a hidden
-    /// label keeps its place, and lines may end there.
-    int TradeRing = MaxPlayers;
-    int SpaceDocks = 1; ///< 0..10
-    bool Enviro = false;
-    bool PellamTools = false;
-    bool Micro = false;
-    // Whether a box can be ticked depends on what happened before, not only on what is ticked.
-    bool PellamToolsEnabled = false;
-    bool MicroEnabled = false;
-
-    bool operator==(const PlayerControls&) const = default;
 };
 
 } // namespace ksm

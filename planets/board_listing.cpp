@@ -1,31 +1,38 @@
 #include "planets/board_listing.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace ksm {
 
 int BoardMaximum(const GameState& state) {
-    const int planets = state.BoardPlayer == AllPlanets
-                            ? state.NumPlanets
-                            : state.Player(state.BoardPlayer).PlanetCount;
+    const int owner = state.View.BoardPlayer;
+    const int planets = owner == AllPlanets ? state.NumPlanets : state.Player(owner).PlanetCount;
     return std::max(planets - BoardRowCount, 0);
 }
 
-void ListBoard(const GameState& state, BoardRows& rows) {
-    if (state.BoardPlayer == AllPlanets) {
-        for (std::size_t row = 0; row < rows.size(); ++row) {
-            rows[row] =
-                static_cast<std::uint8_t>(row + static_cast<std::size_t>(state.BoardPosition));
-        }
-        return;
+BoardRows ListBoard(const GameState& state) {
+    BoardRows rows;
+    if (state.View.BoardPlayer == AllPlanets) {
+        std::iota(rows.begin(), rows.end(), static_cast<std::uint8_t>(state.View.BoardPosition));
+        return rows;
     }
+    rows.fill(NoPlanet);
     int seen = 0;
     auto row = rows.begin();
     for (int planet = 0; planet < state.NumPlanets && row != rows.end(); ++planet) {
-        if (state.Planet(planet).Owner == state.BoardPlayer && ++seen > state.BoardPosition) {
+        if (state.Planet(planet).Owner == state.View.BoardPlayer &&
+            ++seen > state.View.BoardPosition) {
             *row++ = static_cast<std::uint8_t>(planet);
         }
     }
+    return rows;
+}
+
+void ListOwner(GameState& state, int owner) {
+    state.View.BoardPlayer = owner;
+    state.View.BoardPosition = std::min(state.View.BoardPosition, BoardMaximum(state));
+    state.View.MarkedOwner = NoOwner;
 }
 
 } // namespace ksm

@@ -8,18 +8,15 @@ namespace ksm {
 /// For each row the table slot of its planet, or `NoPlanet` for an empty row.
 using BoardRows = std::array<std::uint8_t, BoardRowCount>;
 
-constexpr BoardRows EmptyBoardRows() {
-    BoardRows rows{};
-    rows.fill(NoPlanet);
-    return rows;
-}
-
 /// How far the board can scroll in its present view: everything beyond the first page. An owner's
 /// planets are counted as of the last UpdateValues.
 int BoardMaximum(const GameState& state);
 
-/// Lists the present view from the present position. Rows for which an owner has no more planets
-/// stay as they are.
-void ListBoard(const GameState& state, BoardRows& rows);
+/// The rows of the present view from the present position.
+BoardRows ListBoard(const GameState& state);
+
+/// Turns the board to owner 0..10 or to all planets. The position stays, as far as the list
+/// reaches; no owner is marked by a drag any longer.
+void ListOwner(GameState& state, int owner);
 
 } // namespace ksm

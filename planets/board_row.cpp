@@ -1,6 +1,9 @@
 #include "planets/board_row.h"
 
+#include "controls/element_name.h"
+#include "controls/fitting_font.h"
 #include "controls/look.h"
+#include "controls/qt_values.h"
 
 #include <QtMath>
 
@@ -17,11 +20,11 @@ constexpr int FigureRight = 158;
 QColor SpecialtyColour(Specialty specialty) {
     switch (specialty) {
     case Specialty::Blue:
-        return {0x40, 0x40, 0xFF};
+        return ToQColor(colour::BluePlanet);
     case Specialty::Green:
-        return {0x00, 0xA0, 0x00};
+        return ToQColor(colour::GreenPlanet);
     case Specialty::Red:
-        return {0xFF, 0x60, 0x00};
+        return ToQColor(colour::RedPlanet);
     case Specialty::None:
         break;
     }
@@ -35,34 +38,39 @@ QColor TextColour(Specialty specialty) {
 
 } // namespace
 
-QColor ButtonFace() {
-    return QPalette().color(QPalette::Button);
-}
-
 BoardRow::BoardRow(int row, QWidget* board) : number(row + 1) {
     const int top = RowTop + RowPitch * row;
     InvasionPlanet = new PlanetLabel(ElementName("InvasionPlanet", row), {NameLeft, top},
                                      FigureLeft - NameLeft, board);
     InvasionResInf = new CaptionLabel(ElementName("InvasionResInf", row),
                                       {FigureLeft, top, FigureRight - FigureLeft, RowPitch}, board);
-    InvasionResInf->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    InvasionResInf->SetAlignment(Qt::AlignCenter);
     SetNote({});
 }
 
-void BoardRow::Show(int tag, const PlanetRecord& planet) {
-    InvasionPlanet->setProperty("Tag", QString::number(tag));
-    InvasionPlanet->SetPlanet(ToQString(planet.Name));
+void BoardRow::Show(int slot, const PlanetRecord& planet) {
+    SetTag(slot);
+    InvasionPlanet->SetPlanet(QString::fromStdString(planet.Name));
     ShowFigures(QString("%1 %2").arg(planet.Resources).arg(planet.Influence), planet.Specialty);
 }
 
 void BoardRow::ShowEmpty() {
-    InvasionPlanet->setProperty("Tag", QString::number(NoPlanet));
+    SetTag(NoPlanet);
     InvasionPlanet->SetPlanet({});
     ShowFigures({}, Specialty::None);
 }
 
+void BoardRow::SetTag(int slot) {
+    tag = slot;
+    InvasionPlanet->setProperty("Tag", QString::number(slot));
+}
+
+bool BoardRow::Holds(const QWidget* control) const {
+    return control == InvasionPlanet || control == InvasionResInf;
+}
+
 void BoardRow::ShowFigures(const QString& figures, Specialty specialty) {
-    if (figures != InvasionResInf->text()) {
+    if (figures != InvasionResInf->Caption()) {
         InvasionResInf->SetCaption(figures);
         FitFigures();
     }
@@ -75,14 +83,11 @@ void BoardRow::ShowFigures(const QString& figures, Specialty specialty) {
 
 void BoardRow::FitFigures() {
     constexpr int Room = FigureRight - FigureLeft;
-    const QString figures = InvasionResInf->text();
-    double width = QFontMetricsF(InvasionResInf->font()).horizontalAdvance(figures);
-    if (width > Room) {
-        // Figures are never cut: those of many digits reach over the end of a long name.
-        constexpr int SmallestText = SmallText - 2;
-        width = QFontMetricsF(NarrowFont(SmallestText)).horizontalAdvance(figures);
-    }
-    const int place = std::max(Room, qCeil(width));
+    // Figures are never cut: those of many digits reach over the end of a long name.
+    const QString figures = InvasionResInf->Caption();
+    const QFont fitting =
+        FittingFont(InvasionResInf->font(), SmallText - 2, figures, Room);
+    const int place = std::max(Room, qCeil(QFontMetricsF(fitting).horizontalAdvance(figures)));
     InvasionResInf->setGeometry(FigureRight - place, InvasionResInf->y(), place, RowPitch);
 }
 

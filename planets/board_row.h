@@ -17,20 +17,23 @@ public:
     /// Shows a planet; `tag` is its slot in the planet table.
     void Show(int tag, const PlanetRecord& planet);
     void ShowEmpty();
+    /// The slot of the planet shown, or `NoPlanet`.
+    int Tag() const { return tag; }
+    /// Whether the control is one of its two labels.
+    bool Holds(const QWidget* control) const;
 
     /// What assistive technology calls the row's planet; `note` says what happens to it.
     void SetNote(const QString& note);
 
 private:
+    void SetTag(int slot);
     void ShowFigures(const QString& figures, Specialty specialty);
     void FitFigures();
 
     int number; ///< from 1
+    int tag = NoPlanet;
     PlanetLabel* InvasionPlanet;
     CaptionLabel* InvasionResInf;
 };
-
-/// The background of owners and planets that are not marked.
-QColor ButtonFace();
 
 } // namespace ksm

@@ -1,117 +1,88 @@
 #include "planets/number_field.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstddef>
-#include <locale>
-#include <sstream>
+#include <cstdint>
+#include <limits>
 
 namespace ksm {
 
 namespace {
 
+constexpr double Infinite = std::numeric_limits<double>::infinity();
+
+struct Reading {
+    double Value = 0;
+    std::size_t Length = 0; ///< characters that belong to the number
+};
+
 char Lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// The value of `c` as a digit, 99 when it is none.
-int DigitValue(char c) {
-    const char lower = Lower(c);
-    if (lower >= '0' && lower <= '9')
-        return lower - '0';
-    if (lower >= 'a' && lower <= 'f')
-        return lower - 'a' + 10;
-    return 99;
+// What a number is that no double can hold: infinite, or so small that it counts as 0.
+double BeyondDoubles(std::string_view number) {
+    const std::string_view mantissa = number.substr(0, number.find('e'));
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    std::int64_t exponent = 0;
+    if (mantissa.size() < number.size()) {
+        std::string_view digits = number.substr(mantissa.size() + 1);
+        constexpr std::int64_t Huge = 1'000'000'000'000;
+        exponent = digits.starts_with('-') ? -Huge : Huge; // where even the exponent is too long
+        digits.remove_prefix(digits.starts_with('+') ? 1 : 0);
+        std::from_chars(digits.begin(), digits.end(), exponent);
+    }
+    return point - first + exponent > 0 ? Infinite : 0;
 }
 
-// Reads a text from its beginning, piece by piece.
-class Scanner {
-public:
-    explicit Scanner(std::string_view whole) : text(whole) {}
-
-    // Steps over one of `choices` (lower case) and tells whether there was one.
-    bool Take(std::string_view choices) {
-        if (At() == '\0' || choices.find(Lower(At())) == std::string_view::npos)
-            return false;
-        ++position;
-        return true;
+// `text` is in lower case, with E for every exponent.
+Reading ReadDecimal(std::string_view text) {
+    // A second sign, and words such as "inf", begin no number.
+    if (text.empty() || std::string_view(".0123456789").find(text.front()) == text.npos) {
+        return {};
     }
-    std::string_view TakeDigits(int base) {
-        const std::size_t start = position;
-        while (DigitValue(At()) < base)
-            ++position;
-        return text.substr(start, position - start);
-    }
-    std::size_t Position() const { return position; }
-    void BackTo(std::size_t earlier) { position = earlier; }
-
-private:
-    char At() const { return position < text.size() ? text[position] : '\0'; }
-
-    std::string_view text;
-    std::size_t position = 0;
-};
-
-double ScanPrefixed(Scanner& scanner, int base) {
     double value = 0;
-    for (const char digit : scanner.TakeDigits(base))
-        value = value * base + DigitValue(digit);
-    return value;
+    const auto [end, error] = std::from_chars(text.begin(), text.end(), value);
+    const auto length = static_cast<std::size_t>(end - text.begin());
+    if (error == std::errc::result_out_of_range) {
+        value = BeyondDoubles(text.substr(0, length));
+    }
+    return {value, length};
 }
 
-// Digits, point, digits, and an exponent only where it has digits.
-double ScanDecimal(Scanner& scanner) {
-    std::string number = "0";
-    number += scanner.TakeDigits(10);
-    if (scanner.Take(".")) {
-        number += '.';
-        number += scanner.TakeDigits(10);
-        number += '0';
+// Digits behind a prefix of two characters.
+Reading ReadPrefixed(std::string_view text, int base) {
+    const char* const begin = text.begin() + 2;
+    std::uint64_t value = 0;
+    const auto [end, error] = std::from_chars(begin, text.end(), value, base);
+    const bool large = error == std::errc::result_out_of_range;
+    return {large ? Infinite : static_cast<double>(value),
+            static_cast<std::size_t>(end - text.begin())};
+}
+
+Reading ReadUnsigned(std::string text) {
+    std::ranges::transform(text, text.begin(), Lower);
+    if (text.starts_with("&h")) {
+        return ReadPrefixed(text, 16);
     }
-    const std::size_t mantissaEnd = scanner.Position();
-    if (number != "0" && scanner.Take("ed")) {
-        const std::size_t signStart = scanner.Position();
-        const bool negative = scanner.Take("-");
-        if (scanner.Position() == signStart)
-            scanner.Take("+");
-        const std::string_view exponent = scanner.TakeDigits(10);
-        if (exponent.empty()) {
-            scanner.BackTo(mantissaEnd);
-        } else {
-            number += negative ? "e-" : "e+";
-            number += exponent;
-        }
+    if (text.starts_with("&o")) {
+        return ReadPrefixed(text, 8);
     }
-    // The same in every locale, and the largest double for anything larger.
-    std::istringstream stream(number);
-    stream.imbue(std::locale::classic());
-    double value = 0;
-    stream >> value;
-    return value;
+    std::ranges::replace(text, 'd', 'e');
+    return ReadDecimal(text);
 }
 
 } // namespace
 
 FieldNumber ReadNumberField(std::string_view field) {
-    std::string text;
-    for (const char c : field) {
-        if (c != ' ' && c != '\t' && c != '\n')
-            text += c;
-    }
-    Scanner scanner(text);
-    const bool negative = scanner.Take("-");
-    if (!negative)
-        scanner.Take("+");
-    double value = 0;
-    if (scanner.Take("&")) {
-        if (scanner.Take("h")) {
-            value = ScanPrefixed(scanner, 16);
-        } else if (scanner.Take("o")) {
-            value = ScanPrefixed(scanner, 8);
-        }
-    } else {
-        value = ScanDecimal(scanner);
-    }
-    return {std::nearbyint(negative ? -value : value), text.substr(0, scanner.Position())};
+    std::string text(field);
+    std::erase_if(text, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
+    const bool negative = text.starts_with('-');
+    const std::size_t sign = negative || text.starts_with('+') ? 1 : 0;
+    const auto [value, length] = ReadUnsigned(text.substr(sign));
+    return {std::nearbyint(negative ? -value : value), text.substr(0, sign + length)};
 }
 
 } // namespace ksm

@@ -14,7 +14,7 @@ struct FieldNumber {
 /// Reads the number at the beginning of `field`. Blanks, tabs and line feeds count nowhere. A
 /// number is an optional sign, then decimal digits with at most one point and an optional exponent
 /// (E or D), or &H and hexadecimal digits, or &O and octal digits; whatever follows it is ignored.
-/// A number too large for a double is the largest double, or infinite.
+/// A number too large for a double is infinite.
 FieldNumber ReadNumberField(std::string_view field);
 
 } // namespace ksm

@@ -1,12 +1,19 @@
 #include "planets/planet_board.h"
 
-#include "app/layout.h"
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/framed_bar.h"
 #include "controls/look.h"
+#include "controls/qt_values.h"
 #include "controls/shape_frame.h"
+#include "model/player_labels.h"
+#include "planets/drag_marks.h"
+#include "planets/owner_place.h"
 #include "planets/planet_transfer.h"
 
+#include <QApplication>
+
+#include <algorithm>
 #include <utility>
 
 namespace ksm {
@@ -15,8 +22,6 @@ namespace {
 
 constexpr QRect Panel{163, 0, 172, 180};
 constexpr QSize OwnerSize{70, 14};
-constexpr QColor Highlight{0xFF, 0xFF, 0x00};
-constexpr QColor DragMark{0xFF, 0x00, 0x00};
 
 } // namespace
 
@@ -36,196 +41,233 @@ PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), st
 }
 
 void PlanetBoard::MakeOwners() {
-    const auto make = [this](int owner, int top, const QFont& font, const QString& caption) {
+    const auto make = [this](int owner, int top, const QFont& font) {
         auto* label = new CaptionLabel(ElementName("InvasionPlayer", owner),
                                        {QPoint(0, top), OwnerSize}, this);
-        label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+        label->SetAlignment(Qt::AlignCenter);
         label->setFont(font);
-        label->SetCaption(caption);
-        label->SetBackColour(ButtonFace());
         label->MakeClickable();
-        connect(label, &CaptionLabel::Clicked, this,
-                [this, owner] { InvasionPlayer_Click(owner); });
+        connect(label, &CaptionLabel::Clicked, this, [this, owner] { InvasionPlayer_Click(owner); });
         InvasionPlayer[owner] = label;
     };
-    make(AllPlanets, 1, BoldFont(), "All planets");
-    make(NeutralOwner, 16, BoldFont(), "Neutral");
-    const PlayerLayout design = LayoutForPlayerCount(MaxPlayers);
+    make(AllPlanets, 1, BoldFont());
+    InvasionPlayer[AllPlanets]->SetCaption("All planets");
+    make(NeutralOwner, 16, BoldFont());
+    InvasionPlayer[NeutralOwner]->SetCaption("Neutral");
     for (int player = 1; player <= MaxPlayers; ++player) {
-        make(player, design.OwnerTops[player], PlainFont(), {});
+        make(player, 0, PlainFont());
         InvasionPlayer[player]->SetHeading(QString("Planets of Player %1").arg(player));
-        ShowPlayer(player);
     }
-    InvasionPlayer[AllPlanets]->SetBackColour(Highlight);
 }
 
 void PlanetBoard::MakeRows() {
-    labels.reserve(BoardRowCount);
+    rows.reserve(BoardRowCount);
     for (int row = 0; row < BoardRowCount; ++row) {
-        const PlanetLabel* name = &labels.emplace_back(row, this).Name();
-        connect(name, &PlanetLabel::DraggedTo, this, [this, row](QPoint at) { DragTo(row, at); });
-        connect(name, &PlanetLabel::DroppedAt, this, [this, row](QPoint at) { DropAt(row, at); });
-        connect(name, &PlanetLabel::PickedUp, this, [this, row] { Carry(row, +1); });
-        connect(name, &PlanetLabel::CarriedBy, this, [this, row](int step) { Carry(row, step); });
-        connect(name, &PlanetLabel::SetDown, this, [this, row] { SetDown(row); });
-        connect(name, &PlanetLabel::PutBack, this, [this, row] { PutBack(row); });
+        const PlanetLabel* name = &rows.emplace_back(row, this).Name();
+        connect(name, &PlanetLabel::Pressed, this, [this, row] { Take(row); });
+        connect(name, &PlanetLabel::DraggedTo, this, &PlanetBoard::DragTo);
+        connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
+        connect(name, &PlanetLabel::DragCancelled, this, &PlanetBoard::CancelDrag);
+        connect(name, &PlanetLabel::Activated, this, [this, row] { PickUpOrSetDown(row); });
+        connect(name, &PlanetLabel::Stepped, this, &PlanetBoard::Carry);
+        connect(name, &PlanetLabel::Abandoned, this, &PlanetBoard::PutBack);
     }
 }
 
-void PlanetBoard::ShowFirstPage() {
-    ShowScrollRange();
-    ListBoard(state, rows);
-    ShowRows();
-}
-
 void PlanetBoard::ShowGame() {
-    const int position = state.BoardPosition;
-    ClearPlanetMarks();
-    InvasionPlayer_Click(state.BoardPlayer);
-    PlanetScroller->setValue(position);
+    if (carried) {
+        Row(carried->Row).SetNote({});
+        carried.reset();
+    }
+    ShowList();
+    ShowMarks();
 }
 
-void PlanetBoard::PlaceOwner(int player, int top) {
-    InvasionPlayer[player]->move(0, top);
+void PlanetBoard::ShowList() {
+    // The bar ends where the list does, and is moved only to where the state says.
+    const int maximum = BoardMaximum(state);
+    PlanetScroller->setMaximum(std::max(PlanetScroller->maximum(), maximum));
+    PlanetScroller->setValue(state.View.BoardPosition);
+    PlanetScroller->setMaximum(maximum);
+    const BoardRows listed = ListBoard(state);
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (listed[row] == NoPlanet) {
+            rows[row].ShowEmpty();
+        } else {
+            rows[row].Show(listed[row], state.Planet(listed[row]));
+        }
+    }
 }
 
-void PlanetBoard::ShowOwner(int player, bool visible) {
+void PlanetBoard::ShowMarks() {
+    const QColor highlight = ToQColor(colour::Yellow);
+    const QColor dragMark = ToQColor(colour::Red);
+    for (const auto& [owner, label] : InvasionPlayer) {
+        label->SetBackColour(owner == state.View.MarkedOwner   ? dragMark
+                             : owner == state.View.BoardPlayer ? highlight
+                                                               : ButtonFace());
+    }
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        rows[row].Name().SetBackColour(state.View.MarkedRows[row] ? dragMark : ButtonFace());
+    }
+}
+
+void PlanetBoard::PlaceOwner(int player) {
+    InvasionPlayer[player]->move(0, TopOfOwner(player, state.NumPlayers));
+}
+
+void PlanetBoard::SetOwnerVisible(int player, bool visible) {
     InvasionPlayer[player]->setVisible(visible);
 }
 
 void PlanetBoard::ShowPlayer(int player) {
-    InvasionPlayer[player]->SetCaption(ToQString(OwnerCaption(state, player)));
-}
-
-void PlanetBoard::ShowScrollRange() {
-    // A lower maximum moves the position down to it first, and PlanetScroller_Change lists from
-    // there.
-    PlanetScroller->setMaximum(BoardMaximum(state));
-}
-
-void PlanetBoard::ShowRows() {
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        const int tag = rows[row];
-        if (tag == NoPlanet) {
-            labels[row].ShowEmpty();
-        } else {
-            labels[row].Show(tag, state.Planet(tag));
-        }
-    }
+    InvasionPlayer[player]->SetCaption(QString::fromStdString(OwnerCaption(state, player)));
 }
 
 void PlanetBoard::InvasionPlayer_Click(int owner) {
-    state.BoardPlayer = owner;
-    for (const auto& [index, label] : InvasionPlayer) {
-        label->SetBackColour(index == owner ? Highlight : ButtonFace());
-    }
-    if (owner != AllPlanets) {
-        rows = EmptyBoardRows();
-    }
-    ShowScrollRange();
-    ListBoard(state, rows);
-    ShowRows();
+    EndCarrying();
+    List(owner);
+    emit Changed();
 }
 
+void PlanetBoard::List(int owner) {
+    ListOwner(state, owner);
+    ShowList();
+    ShowMarks();
+}
+
+// Also runs when the bar is moved to show the game.
 void PlanetBoard::PlanetScroller_Change(int position) {
-    state.BoardPosition = position;
-    if (state.BoardPlayer != AllPlanets) {
-        ShowScrollRange();
+    if (position != state.View.BoardPosition) {
+        EndCarrying();
+        state.View.BoardPosition = position;
+        ShowList();
+        ShowMarks();
+        emit Changed();
     }
-    ListBoard(state, rows);
-    ShowRows();
+}
+
+const QWidget* PlanetBoard::ControlAt(QPoint global) const {
+    // Another window can lie over the board.
+    const QWidget* control = QApplication::widgetAt(global);
+    return control == this || isAncestorOf(control) ? control : nullptr;
 }
 
 int PlanetBoard::OwnerAt(QPoint global) const {
-    const QWidget* under = childAt(mapFromGlobal(global));
-    for (const auto& [index, label] : InvasionPlayer) {
-        if (label == under) {
-            return index;
+    const QWidget* control = ControlAt(global);
+    for (const auto& [owner, label] : InvasionPlayer) {
+        if (label == control) {
+            return owner;
         }
     }
-    return -1;
+    return NoOwner;
 }
 
-void PlanetBoard::DragTo(int row, QPoint global) {
+bool PlanetBoard::IsBareBoard(QPoint global) const {
+    const QWidget* control = ControlAt(global);
+    return control == this || std::ranges::any_of(rows, [&](const BoardRow& row) {
+               return row.Tag() == NoPlanet && row.Holds(control);
+           });
+}
+
+void PlanetBoard::Take(int row) {
+    PutBack();
+    dragged = {.Row = row, .Tag = Row(row).Tag()};
+}
+
+void PlanetBoard::DragTo(QPoint global) {
     const int owner = OwnerAt(global);
-    if (owner >= 0) {
-        InvasionPlayer_DragOver(owner, row);
+    if (owner != NoOwner && dragged) {
+        InvasionPlayer_DragOver(owner, *dragged);
     }
 }
 
-void PlanetBoard::DropAt(int row, QPoint global) {
-    const QPoint place = mapFromGlobal(global);
+void PlanetBoard::DropAt(QPoint global) {
+    const std::optional<Journey> ended = std::exchange(dragged, std::nullopt);
     const int owner = OwnerAt(global);
-    if (owner >= 0) {
-        InvasionPlayer_DragDrop(owner, row);
-    } else if (rect().contains(place) && !childAt(place)) {
+    if (ended && owner != NoOwner) {
+        InvasionPlayer_DragDrop(owner, *ended);
+    } else if (IsBareBoard(global)) {
         InvasionPic_DragDrop();
     }
 }
 
-void PlanetBoard::InvasionPlayer_DragOver(int owner, int row) {
-    if (owner == state.BoardPlayer || owner == AllPlanets) {
-        return;
-    }
-    for (int index = 0; index <= MaxPlayers; ++index) {
-        if (index == owner) {
-            InvasionPlayer[index]->SetBackColour(DragMark);
-        } else if (index != state.BoardPlayer) {
-            InvasionPlayer[index]->SetBackColour(ButtonFace());
-        }
-    }
-    Label(row).Name().SetBackColour(DragMark);
+void PlanetBoard::CancelDrag() {
+    dragged.reset();
+    InvasionPic_DragDrop();
 }
 
-void PlanetBoard::InvasionPlayer_DragDrop(int owner, int row) {
-    const int tag = rows[static_cast<std::size_t>(row)];
-    if (!AcceptsDrop(state, owner, tag)) {
+void PlanetBoard::InvasionPlayer_DragOver(int owner, Journey& journey) {
+    journey.Over = owner;
+    const GameView before = state.View;
+    MarkDragOver(state, owner, journey.Row);
+    if (state.View != before) {
+        ShowMarks();
+        emit Changed();
+    }
+}
+
+void PlanetBoard::InvasionPlayer_DragDrop(int owner, const Journey& journey) {
+    if (!AcceptsDrop(state, owner, journey.Tag)) {
         return;
     }
-    ClearPlanetMarks();
-    InvasionPlayer[owner]->SetBackColour(ButtonFace());
-    if (TransferPlanet(state, tag, owner)) {
+    UnmarkAfterDrop(state, owner);
+    if (TransferPlanet(state, journey.Tag, owner)) {
         emit InputChanged();
-        InvasionPlayer_Click(state.BoardPlayer);
+        List(state.View.BoardPlayer);
     }
+    ShowMarks();
+    emit Changed();
 }
 
 void PlanetBoard::InvasionPic_DragDrop() {
-    ClearPlanetMarks();
-    for (int index = 0; index <= MaxPlayers; ++index) {
-        if (index != state.BoardPlayer) {
-            InvasionPlayer[index]->SetBackColour(ButtonFace());
-        }
+    UnmarkAll(state);
+    ShowMarks();
+    emit Changed();
+}
+
+void PlanetBoard::PickUpOrSetDown(int row) {
+    if (carried) {
+        const Journey ended = *carried;
+        Row(ended.Row).SetNote({});
+        carried.reset();
+        InvasionPlayer_DragDrop(ended.Over, ended);
+    } else if (!dragged && Row(row).Tag() < state.NumPlanets) {
+        Row(row).Name().setFocus();
+        carried = {.Row = row, .Tag = Row(row).Tag()};
+        Carry(+1);
     }
 }
 
-void PlanetBoard::ClearPlanetMarks() {
-    for (BoardRow& row : labels) {
-        row.Name().SetBackColour(ButtonFace());
+void PlanetBoard::Carry(int step) {
+    if (!carried) {
+        return;
     }
-}
-
-void PlanetBoard::Carry(int row, int step) {
     // Over the owners in the game, the pool first, round and round; never to the listed owner.
     const int owners = state.NumPlayers + 1;
-    int next = carriedTo;
+    int next = carried->Over;
     do {
         next = next < 0 ? (step > 0 ? 0 : owners - 1) : (next + step + owners) % owners;
-    } while (next == state.BoardPlayer);
-    carriedTo = next;
-    InvasionPlayer_DragOver(next, row);
-    Label(row).SetNote(", over " + InvasionPlayer[next]->text());
+    } while (next == state.View.BoardPlayer);
+    Row(carried->Row).SetNote(", over " + InvasionPlayer[next]->Caption());
+    InvasionPlayer_DragOver(next, *carried);
 }
 
-void PlanetBoard::SetDown(int row) {
-    Label(row).SetNote({});
-    InvasionPlayer_DragDrop(std::exchange(carriedTo, -1), row);
+void PlanetBoard::PutBack() {
+    if (carried) {
+        EndCarrying();
+        ShowMarks();
+        emit Changed();
+    }
 }
 
-void PlanetBoard::PutBack(int row) {
-    Label(row).SetNote({});
-    carriedTo = -1;
-    InvasionPic_DragDrop();
+// The one who ends it shows what is left.
+void PlanetBoard::EndCarrying() {
+    if (carried) {
+        Row(carried->Row).SetNote({});
+        carried.reset();
+        UnmarkAll(state);
+    }
 }
 
 } // namespace ksm

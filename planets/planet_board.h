@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace ksm {
@@ -20,51 +21,67 @@ class PlanetBoard : public QWidget {
     Q_OBJECT
 
 public:
-    PlanetBoard(GameState& state, QWidget* parent);
+    PlanetBoard(GameState& game, QWidget* parent);
 
-    /// Shows the first page of all planets at start; the owner labels keep their first colours.
-    void ShowFirstPage();
-    /// Shows the view and the position of the game state, after a game was loaded.
+    /// Shows the view of the game state with its marks.
     void ShowGame();
 
-    void PlaceOwner(int player, int top);
-    void ShowOwner(int player, bool visible);
+    /// Places the player's owner label for the number of players.
+    void PlaceOwner(int player);
+    void SetOwnerVisible(int player, bool visible);
     /// Shows the player's name on the owner label.
     void ShowPlayer(int player);
 
-    /// Lists the planets of owner 0..10, or all planets (`AllPlanets`).
-    void InvasionPlayer_Click(int owner);
-
 signals:
-    /// A planet changed hands.
+    /// A planet changed hands: the figures are recomputed and shown before this returns.
     void InputChanged();
+    /// What the user did is done.
+    void Changed();
 
 private:
+    /// A planet on its way, by mouse or by keyboard. It stays the one that was taken, whatever the
+    /// board lists meanwhile.
+    struct Journey {
+        int Row;
+        int Tag;
+        int Over = NoOwner; ///< owner under it
+    };
+
     void MakeOwners();
     void MakeRows();
+    void InvasionPlayer_Click(int owner);
     void PlanetScroller_Change(int position);
-    void ShowRows();
-    void ShowScrollRange();
+    void List(int owner);
 
-    void DragTo(int row, QPoint global);
-    void DropAt(int row, QPoint global);
-    void InvasionPlayer_DragOver(int owner, int row);
-    void InvasionPlayer_DragDrop(int owner, int row);
+    void Take(int row);
+    void DragTo(QPoint global);
+    void DropAt(QPoint global);
+    void CancelDrag();
+    void InvasionPlayer_DragOver(int owner, Journey& journey);
+    void InvasionPlayer_DragDrop(int owner, const Journey& journey);
     void InvasionPic_DragDrop();
-    void Carry(int row, int step);
-    void SetDown(int row);
-    void PutBack(int row);
-    BoardRow& Label(int row) { return labels.at(static_cast<std::size_t>(row)); }
-    /// The index of the visible owner label at this place of the screen, or -1.
+
+    void PickUpOrSetDown(int row);
+    void Carry(int step);
+    void PutBack();
+    void EndCarrying();
+
+    void ShowList();
+    void ShowMarks();
+    BoardRow& Row(int row) { return rows.at(static_cast<std::size_t>(row)); }
+    /// The panel or its control that is seen at this place of the screen, or null.
+    const QWidget* ControlAt(QPoint global) const;
+    /// The index of the owner label there, or `NoOwner`.
     int OwnerAt(QPoint global) const;
-    void ClearPlanetMarks();
+    /// Whether nothing but the board is there. An empty row counts as the board.
+    bool IsBareBoard(QPoint global) const;
 
     GameState& state;
-    BoardRows rows = EmptyBoardRows();
     std::map<int, CaptionLabel*> InvasionPlayer; ///< 0..10 and `AllPlanets`
-    std::vector<BoardRow> labels;
+    std::vector<BoardRow> rows;
     FramedBar* PlanetScroller = nullptr;
-    int carriedTo = -1; ///< owner under a planet that the keyboard carries, -1 = none
+    std::optional<Journey> dragged; ///< by the mouse
+    std::optional<Journey> carried; ///< by the keyboard
 };
 
 } // namespace ksm

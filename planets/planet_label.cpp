@@ -18,14 +18,11 @@ constexpr int RowHeight = 14;
 
 PlanetLabel::PlanetLabel(const QString& objectName, QPoint place, int longest, QWidget* parent)
     : CaptionLabel(objectName, {place, QSize(longest, RowHeight)}, parent), longestName(longest) {
-    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setFocusPolicy(Qt::TabFocus);
 }
 
 void PlanetLabel::SetPlanet(const QString& name) {
-    StopCarrying();
-    StopDragging();
-    if (name == text()) {
+    if (name == Caption()) {
         return;
     }
     SetCaption(name);
@@ -35,13 +32,11 @@ void PlanetLabel::SetPlanet(const QString& name) {
 
 void PlanetLabel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        // The keyboard may be carrying this planet, or another.
-        if (auto* other = qobject_cast<PlanetLabel*>(window()->focusWidget())) {
-            other->StopCarrying();
-        }
         dragged = true;
         qApp->installEventFilter(this);
         grip = event->position().toPoint();
+        MoveOutline(event->globalPosition().toPoint());
+        emit Pressed();
     }
 }
 
@@ -62,23 +57,27 @@ void PlanetLabel::mouseReleaseEvent(QMouseEvent* event) {
 
 // A window or a menu that opens during a drag gets the release of the mouse button, or nobody does.
 bool PlanetLabel::eventFilter(QObject* watched, QEvent* event) {
-    const bool blocked = event->type() == QEvent::WindowBlocked;
-    const bool released =
-        event->type() == QEvent::MouseButtonRelease && watched->isWidgetType() && watched != this;
-    if (blocked || released) {
-        StopDragging();
+    const auto* control = qobject_cast<QWidget*>(watched);
+    if (control && dragged) {
+        const bool opened = event->type() == QEvent::Show && control->isWindow() &&
+                            control->windowType() != Qt::ToolTip;
+        const bool released = event->type() == QEvent::MouseButtonRelease && control != this;
+        if (opened || released || event->type() == QEvent::WindowBlocked) {
+            CancelDrag();
+        }
     }
     return CaptionLabel::eventFilter(watched, event);
 }
 
 void PlanetLabel::StopDragging() {
-    if (dragged) {
-        dragged = false;
-        qApp->removeEventFilter(this);
-        if (outline) {
-            outline->hide();
-        }
-    }
+    dragged = false;
+    qApp->removeEventFilter(this);
+    outline->hide();
+}
+
+void PlanetLabel::CancelDrag() {
+    StopDragging();
+    emit DragCancelled();
 }
 
 void PlanetLabel::MoveOutline(QPoint global) {
@@ -91,38 +90,31 @@ void PlanetLabel::MoveOutline(QPoint global) {
 }
 
 void PlanetLabel::Activate() {
-    if (carried) {
-        carried = false;
-        emit SetDown();
-    } else if (!dragged && !text().isEmpty()) {
-        setFocus();
-        carried = true;
-        emit PickedUp();
-    }
-}
-
-void PlanetLabel::StopCarrying() {
-    if (carried) {
-        carried = false;
-        emit PutBack();
+    if (!dragged) {
+        emit Activated();
     }
 }
 
 void PlanetLabel::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    if (carried && (key == Qt::Key_Down || key == Qt::Key_Right)) {
-        emit CarriedBy(+1);
-    } else if (carried && (key == Qt::Key_Up || key == Qt::Key_Left)) {
-        emit CarriedBy(-1);
-    } else if (carried && key == Qt::Key_Escape) {
-        StopCarrying();
-    } else {
+    switch (event->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        emit Stepped(+1);
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        emit Stepped(-1);
+        break;
+    case Qt::Key_Escape:
+        emit Abandoned();
+        break;
+    default:
         CaptionLabel::keyPressEvent(event);
     }
 }
 
 void PlanetLabel::focusOutEvent(QFocusEvent* event) {
-    StopCarrying();
+    emit Abandoned();
     CaptionLabel::focusOutEvent(event);
 }
 

@@ -7,8 +7,8 @@ namespace ksm {
 
 class ShapeFrame;
 
-/// Reports a drag: by mouse from press to release, or by keyboard from Return (or Space) to Return.
-/// It never leaves the window, and the label gets no click.
+/// Reports a drag by mouse, from press to release, and the keys that do the same by keyboard. A
+/// drag never leaves the window, and the label gets no click.
 class PlanetLabel : public CaptionLabel {
     Q_OBJECT
 
@@ -17,23 +17,25 @@ public:
     /// it can be seen while it is dragged.
     PlanetLabel(const QString& objectName, QPoint place, int longest, QWidget* parent);
 
-    /// Another planet in the row ends what mouse or keyboard do with the old one.
     void SetPlanet(const QString& name);
 
-    /// Picks the planet up or, the second time, sets it down. An empty row has nothing to pick up.
+    /// Does what Space or Return does.
     void Activate() override;
 
 signals:
+    void Pressed();
     /// The pointer moved to this place of the screen with the button held.
     void DraggedTo(QPoint global);
     void DroppedAt(QPoint global);
+    /// Something came between: a window or a menu opened, or the release of the button was lost.
+    void DragCancelled();
 
-    /// The keyboard picked the planet up, moved it to the next (+1) or previous (-1) owner, dropped
-    /// it there, or put it back.
-    void PickedUp();
-    void CarriedBy(int step);
-    void SetDown();
-    void PutBack();
+    /// Space or Return: picks the planet up or sets it down.
+    void Activated();
+    /// An arrow key: to the next (+1) or the previous (-1).
+    void Stepped(int step);
+    /// Escape, or the focus left.
+    void Abandoned();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,12 +47,11 @@ protected:
 
 private:
     void MoveOutline(QPoint global);
-    void StopCarrying();
     void StopDragging();
+    void CancelDrag();
 
     int longestName;
     bool dragged = false;
-    bool carried = false;
     QPoint grip; ///< where the pointer holds the label
     ShapeFrame* outline = nullptr;
 };

@@ -152,12 +152,12 @@ PlanetListResult ReadPlanetListFile(const std::filesystem::path& path) {
     return ReadPlanetList(bytes);
 }
 
-void TakePlanets(GameState& state, std::span<const PlanetRecord> planets) {
-    state.Planets = {};
-    std::ranges::copy(planets, state.Planets.begin());
-    state.NumPlanets = static_cast<int>(planets.size());
-    PlayerRecord& pool = state.Player(NeutralOwner);
-    pool.PlanetCount = state.NumPlanets;
+void TakePlanets(Game& game, std::span<const PlanetRecord> planets) {
+    game.Planets = {};
+    std::ranges::copy(planets, game.Planets.begin());
+    game.NumPlanets = static_cast<int>(planets.size());
+    PlayerRecord& pool = game.Player(NeutralOwner);
+    pool.PlanetCount = game.NumPlanets;
     pool.PlanetList = EmptyPlanetList();
     for (std::size_t i = 0; i < planets.size(); ++i) {
         pool.PlanetList.at(i) = static_cast<std::uint8_t>(i);

@@ -38,7 +38,7 @@ PlanetListResult ReadPlanetList(std::string_view bytes);
 PlanetListResult ReadPlanetListFile(const std::filesystem::path& path);
 
 /// Puts 1..101 planets into the game, all of them unowned, and fills the pool's list and count.
-void TakePlanets(GameState& state, std::span<const PlanetRecord> planets);
+void TakePlanets(Game& game, std::span<const PlanetRecord> planets);
 
 /// What a message box says of a planet list that cannot be used: at most ten problems, one a line,
 /// and how many more there are.

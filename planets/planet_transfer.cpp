@@ -24,7 +24,7 @@ void Remove(PlanetIndexList& list, std::uint8_t planet) {
 } // namespace
 
 bool AcceptsDrop(const GameState& state, int owner, int tag) {
-    return owner != state.BoardPlayer && owner != AllPlanets && tag != NoPlanet;
+    return owner != state.View.BoardPlayer && owner != AllPlanets && tag != NoPlanet;
 }
 
 bool TransferPlanet(GameState& state, int planet, int owner) {
@@ -33,7 +33,7 @@ bool TransferPlanet(GameState& state, int planet, int owner) {
         return false;
     }
     const auto index = static_cast<std::uint8_t>(planet);
-    const int source = state.BoardPlayer == AllPlanets ? NeutralOwner : state.BoardPlayer;
+    const int source = state.View.BoardPlayer == AllPlanets ? NeutralOwner : state.View.BoardPlayer;
     state.Planet(planet).Owner = static_cast<std::uint8_t>(owner);
     Append(state.Player(owner).PlanetList, index);
     Remove(state.Player(source).PlanetList, index);

@@ -5,8 +5,8 @@
 
 namespace ksm {
 
-/// Whether a row with this tag may be dropped on the owner's label: never on the listed owner, on
-/// "All planets", or from an empty row.
+/// Whether a planet with this tag may be dropped on the owner's label: never on the listed owner,
+/// on "All planets", or from an empty row.
 bool AcceptsDrop(const GameState& state, int owner, int tag);
 
 /// Gives the planet to `owner` (0..10): sets its owner, appends it to the new owner's list and

@@ -24,10 +24,12 @@ inline GameState GameOfTwentyPlanets() {
 
 /// The window as a player meets it; controls are found by their names.
 struct GameWindow {
-    GameState state = GameOfTwentyPlanets();
+    GameState state;
     Korvane window{state};
 
-    GameWindow() { window.show(); }
+    explicit GameWindow(GameState game = GameOfTwentyPlanets()) : state(std::move(game)) {
+        window.show();
+    }
 
     template<typename Control = CaptionLabel>
     Control* Find(const char* name) const {
@@ -41,7 +43,7 @@ struct GameWindow {
     }
 
     std::string Caption(const char* array, int index) const {
-        return Find<QLabel>(array, index)->text().toStdString();
+        return Find(array, index)->Caption().toStdString();
     }
     QColor Back(const char* array, int index) const {
         return Find(array, index)->palette().color(QPalette::Window);

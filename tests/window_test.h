@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 
 #include <QLineEdit>

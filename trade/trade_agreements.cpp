@@ -6,93 +6,93 @@ namespace {
 
 constexpr auto SelectFirstPlayer = "\r\nSelect first player...";
 
-const std::string& Name(const GameState& state, int player) {
-    return state.Player(player).Name;
+const std::string& Name(const Game& game, int player) {
+    return game.Player(player).Name;
 }
 
-void BreakAgreement(GameState& state, int one, int other) {
-    state.Cell(one, other) = NoAgreement;
-    state.Cell(other, one) = NoAgreement;
+void BreakAgreement(Game& game, int one, int other) {
+    game.Cell(one, other) = NoAgreement;
+    game.Cell(other, one) = NoAgreement;
 }
 
-bool IsIndependencePair(const GameState& state, int one, int other) {
-    return (one == state.IndepFirst && other == state.IndepSecond) ||
-           (one == state.IndepSecond && other == state.IndepFirst);
+bool IsIndependencePair(const Game& game, int one, int other) {
+    return (one == game.IndepFirst && other == game.IndepSecond) ||
+           (one == game.IndepSecond && other == game.IndepFirst);
 }
 
 // The player clicked last is named first.
-std::string Message(const GameState& state, int last, const char* joint, int first,
+std::string Message(const Game& game, int last, const char* joint, int first,
                     const char* ending) {
-    return Name(state, last) + joint + Name(state, first) + ending;
+    return Name(game, last) + joint + Name(game, first) + ending;
 }
 
-void PickFirst(GameState& state, int player, const char* ending, TradeMode next) {
-    state.TradeInfo = Name(state, player) + ending;
-    state.TradeFirst = player;
-    state.TradeMode = next;
+void PickFirst(Game& game, int player, const char* ending, TradeMode next) {
+    game.TradeInfo = Name(game, player) + ending;
+    game.TradeFirst = player;
+    game.TradeMode = next;
 }
 
-TradeOutcome PickAddPartner(GameState& state, int player) {
-    const int first = state.TradeFirst;
+TradeOutcome PickAddPartner(Game& game, int player) {
+    const int first = game.TradeFirst;
     if (player == first) {
         return {};
     }
-    state.TradeMode = TradeMode::Idle;
-    if (IsIndependencePair(state, player, first)) {
-        state.TradeInfo =
-            Message(state, player, " and ", first, " are not allowed to trade with eachother");
+    game.TradeMode = TradeMode::Idle;
+    if (IsIndependencePair(game, player, first)) {
+        game.TradeInfo =
+            Message(game, player, " and ", first, " are not allowed to trade with eachother");
         return {};
     }
-    if (HaveAgreement(state, first, player)) {
-        state.TradeInfo = Message(state, player, " and ", first, " already have a TA");
+    if (HaveAgreement(game, first, player)) {
+        game.TradeInfo = Message(game, player, " and ", first, " already have a TA");
         return {};
     }
-    state.Cell(first, player) = Agreement;
-    state.TradeInfo = Message(state, player, " and ", first, " make a TA");
+    game.Cell(first, player) = Agreement;
+    game.TradeInfo = Message(game, player, " and ", first, " make a TA");
     return {true, DiagramChange::AddLine, first, player};
 }
 
-TradeOutcome PickRemovePartner(GameState& state, int player) {
-    const int first = state.TradeFirst;
+TradeOutcome PickRemovePartner(Game& game, int player) {
+    const int first = game.TradeFirst;
     if (player == first) {
         return {};
     }
-    state.TradeMode = TradeMode::Idle;
-    if (!HaveAgreement(state, first, player)) {
-        state.TradeInfo = Message(state, player, " & ", first, " don't have a TA to break");
+    game.TradeMode = TradeMode::Idle;
+    if (!HaveAgreement(game, first, player)) {
+        game.TradeInfo = Message(game, player, " & ", first, " don't have a TA to break");
         return {};
     }
-    BreakAgreement(state, first, player);
-    state.TradeInfo = Message(state, player, " and ", first, " break their TA");
+    BreakAgreement(game, first, player);
+    game.TradeInfo = Message(game, player, " and ", first, " break their TA");
     return {true, DiagramChange::Redraw};
 }
 
-TradeOutcome PickIndependenceSecond(GameState& state, int player) {
-    const int first = state.IndepFirst;
-    state.TradeInfo =
-        Message(state, player, " and ", first, " are not allowed to trade with eachother");
+TradeOutcome PickIndependenceSecond(Game& game, int player) {
+    const int first = game.IndepFirst;
+    game.TradeInfo =
+        Message(game, player, " and ", first, " are not allowed to trade with eachother");
     // Dissolving the law in the middle of the choice leaves no first player.
-    const bool breaks = HaveAgreement(state, first, player);
+    const bool breaks = HaveAgreement(game, first, player);
     if (breaks) {
-        BreakAgreement(state, first, player);
+        BreakAgreement(game, first, player);
     }
-    state.IndepSecond = player;
-    state.TradeMode = TradeMode::Idle;
+    game.IndepSecond = player;
+    game.TradeMode = TradeMode::Idle;
     return {breaks, DiagramChange::Redraw};
 }
 
 } // namespace
 
-bool HaveAgreement(const GameState& state, int one, int other) {
-    return state.Cell(one, other) != NoAgreement || state.Cell(other, one) != NoAgreement;
+bool HaveAgreement(const Game& game, int one, int other) {
+    return game.Cell(one, other) != NoAgreement || game.Cell(other, one) != NoAgreement;
 }
 
-PartnerSet TradePartners(const GameState& state, int player) {
+PartnerSet TradePartners(const Game& game, int player) {
     const auto self = static_cast<std::size_t>(player);
     PartnerSet partners;
     for (std::size_t other = 1; other <= MaxPlayers; ++other) {
         partners[other] =
-            (state.TradeAgreements[self][other] | state.TradeAgreements[other][self]) != 0;
+            (game.TradeAgreements[self][other] | game.TradeAgreements[other][self]) != 0;
     }
     return partners;
 }
@@ -108,46 +108,46 @@ std::string TradeCountSentence(int agreements) {
     }
 }
 
-void AddTAbutton_Click(GameState& state) {
-    if (state.TradeMode == TradeMode::Idle) {
-        state.TradeMode = TradeMode::AddFirst;
-        state.TradeInfo = SelectFirstPlayer;
+void AddTAbutton_Click(Game& game) {
+    if (game.TradeMode == TradeMode::Idle) {
+        game.TradeMode = TradeMode::AddFirst;
+        game.TradeInfo = SelectFirstPlayer;
     }
 }
 
-void RemoveTAButton_Click(GameState& state) {
-    if (state.TradeMode != TradeMode::Idle) {
+void RemoveTAButton_Click(Game& game) {
+    if (game.TradeMode != TradeMode::Idle) {
         return;
     }
-    if (state.TradeCount == 0) {
-        state.TradeInfo = "There are no Trade Agreements to remove.";
+    if (game.TradeCount == 0) {
+        game.TradeInfo = "There are no Trade Agreements to remove.";
         return;
     }
-    state.TradeMode = TradeMode::RemoveFirst;
-    state.TradeInfo = SelectFirstPlayer;
+    game.TradeMode = TradeMode::RemoveFirst;
+    game.TradeInfo = SelectFirstPlayer;
 }
 
-TradeOutcome TradePlayer_Click(GameState& state, int player) {
-    switch (state.TradeMode) {
+TradeOutcome TradePlayer_Click(Game& game, int player) {
+    switch (game.TradeMode) {
     case TradeMode::Idle:
         return {};
     case TradeMode::AddFirst:
-        PickFirst(state, player, " makes Trade Agreement with...", TradeMode::AddPartner);
+        PickFirst(game, player, " makes Trade Agreement with...", TradeMode::AddPartner);
         return {};
     case TradeMode::AddPartner:
-        return PickAddPartner(state, player);
+        return PickAddPartner(game, player);
     case TradeMode::RemoveFirst:
-        PickFirst(state, player, " breaks Trade Agreement with...", TradeMode::RemovePartner);
+        PickFirst(game, player, " breaks Trade Agreement with...", TradeMode::RemovePartner);
         return {};
     case TradeMode::RemovePartner:
-        return PickRemovePartner(state, player);
+        return PickRemovePartner(game, player);
     case TradeMode::IndependenceFirst:
-        state.TradeInfo = Name(state, player) + " is not allowed to trade with...";
-        state.IndepFirst = player;
-        state.TradeMode = TradeMode::IndependenceSecond;
+        game.TradeInfo = Name(game, player) + " is not allowed to trade with...";
+        game.IndepFirst = player;
+        game.TradeMode = TradeMode::IndependenceSecond;
         return {};
     case TradeMode::IndependenceSecond:
-        return PickIndependenceSecond(state, player);
+        return PickIndependenceSecond(game, player);
     }
     return {};
 }

@@ -9,11 +9,11 @@
 namespace ksm {
 
 /// Whether the two players hold an agreement, whichever of them made it.
-bool HaveAgreement(const GameState& state, int one, int other);
+bool HaveAgreement(const Game& game, int one, int other);
 
 /// Bit j (1..10) is set when the player holds an agreement with player j.
 using PartnerSet = std::bitset<OwnerSlots>;
-PartnerSet TradePartners(const GameState& state, int player);
+PartnerSet TradePartners(const Game& game, int player);
 
 /// "There is one Trade Agreement in play." and the like.
 std::string TradeCountSentence(int agreements);
@@ -33,10 +33,10 @@ struct TradeOutcome {
 };
 
 /// Starts a selection unless one is pending.
-void AddTAbutton_Click(GameState& state);
-void RemoveTAButton_Click(GameState& state);
+void AddTAbutton_Click(Game& game);
+void RemoveTAButton_Click(Game& game);
 
 /// Advances the pending selection; `player` is 1..10.
-TradeOutcome TradePlayer_Click(GameState& state, int player);
+TradeOutcome TradePlayer_Click(Game& game, int player);
 
 } // namespace ksm

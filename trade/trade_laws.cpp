@@ -2,38 +2,38 @@
 
 namespace ksm {
 
-TradeOutcome TFree_Click(GameState& state) {
-    bool& inForce = state.Laws.FreeTrade;
-    state.TradeInfo = inForce ? "\r\n\r\nFree Trade ends." : "\r\n\r\nFREE TRADE!";
+TradeOutcome TFree_Click(Game& game) {
+    bool& inForce = game.Laws.FreeTrade;
+    game.TradeInfo = inForce ? "\r\n\r\nFree Trade ends." : "\r\n\r\nFREE TRADE!";
     inForce = !inForce;
     return {.ValuesChange = true};
 }
 
-TradeOutcome TRestr_Click(GameState& state) {
-    bool& inForce = state.Laws.TradeRestrictions;
-    state.TradeInfo = inForce ? "\r\nTrade Restrictions dissolved." : "\r\nTRADE RESTRICTIONS!";
+TradeOutcome TRestr_Click(Game& game) {
+    bool& inForce = game.Laws.TradeRestrictions;
+    game.TradeInfo = inForce ? "\r\nTrade Restrictions dissolved." : "\r\nTRADE RESTRICTIONS!";
     inForce = !inForce;
     return {.ValuesChange = true};
 }
 
-TradeOutcome Tres_Click(GameState& state) {
-    bool& inForce = state.Laws.EconomicIndependence;
+TradeOutcome Tres_Click(Game& game) {
+    bool& inForce = game.Laws.EconomicIndependence;
     inForce = !inForce;
     if (inForce) {
-        state.TradeInfo = "Select First Player...";
-        state.TradeMode = TradeMode::IndependenceFirst;
+        game.TradeInfo = "Select First Player...";
+        game.TradeMode = TradeMode::IndependenceFirst;
         return {};
     }
     // A choice that is still pending goes on: TradeMode stays as it is.
-    state.TradeInfo = "Forced Economic Independance dissolved.";
-    state.IndepFirst = 0;
-    state.IndepSecond = 0;
+    game.TradeInfo = "Forced Economic Independance dissolved.";
+    game.IndepFirst = 0;
+    game.IndepSecond = 0;
     return {.Diagram = DiagramChange::Redraw};
 }
 
-TradeOutcome TStop_Click(GameState& state) {
-    state.TradeAgreements = {};
-    state.TradeInfo = "\r\n\r\nTRADE STOP!";
+TradeOutcome TStop_Click(Game& game) {
+    game.TradeAgreements = {};
+    game.TradeInfo = "\r\n\r\nTRADE STOP!";
     return {.ValuesChange = true, .Diagram = DiagramChange::Redraw};
 }
 

@@ -5,11 +5,11 @@
 
 namespace ksm {
 
-TradeOutcome TFree_Click(GameState& state);
-TradeOutcome TRestr_Click(GameState& state);
+TradeOutcome TFree_Click(Game& game);
+TradeOutcome TRestr_Click(Game& game);
 /// Switches Economic Independence on, so that the next two clicks choose the pair, or dissolves it.
-TradeOutcome Tres_Click(GameState& state);
+TradeOutcome Tres_Click(Game& game);
 /// Cancels every agreement at once.
-TradeOutcome TStop_Click(GameState& state);
+TradeOutcome TStop_Click(Game& game);
 
 } // namespace ksm

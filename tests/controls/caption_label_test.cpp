@@ -12,9 +12,9 @@ TEST(CaptionLabel, ShowsMarkupAsTypedAndWhatIsTooWideBehindAnEllipsis) {
     }
     label.SetCaption("Anna-Maximiliana the Second");
     EXPECT_TRUE(label.ShownText().endsWith(QChar(0x2026)));
-    EXPECT_EQ(label.text(), "Anna-Maximiliana the Second");
+    EXPECT_EQ(label.Caption(), "Anna-Maximiliana the Second");
     label.resize(300, 17);
-    EXPECT_EQ(label.ShownText(), label.text());
+    EXPECT_EQ(label.ShownText(), label.Caption());
 }
 
 TEST(CaptionLabel, ClicksOnceByMouseAndByKey) {

@@ -15,7 +15,7 @@ TEST(AboutForm, StandsInTheMiddleOfItsOwnerWithAddressesToCopyUntilOk) {
     form->show();
     EXPECT_EQ(form->frameGeometry().center(), owner.frameGeometry().center());
     for (const CaptionLabel* label : form->findChildren<CaptionLabel*>())
-        EXPECT_EQ(label->ShownText(), label->text());
+        EXPECT_EQ(label->ShownText(), label->Caption());
     for (const char* name : {"Text1", "Text2", "Text3"}) {
         auto& box = *form->findChild<QLineEdit*>(name);
         const QString address = box.text();

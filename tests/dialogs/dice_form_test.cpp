@@ -13,16 +13,16 @@ protected:
         form->show();
     }
 
-    QString Count() const { return form->findChild<CaptionLabel*>("Coun")->text(); }
+    QString Count() const { return form->findChild<CaptionLabel*>("Coun")->Caption(); }
     SpinBar& Scroll() const { return *form->findChild<SpinBar*>("Scroll"); }
     /// The values shown at the places that are not empty.
     QList<int> Shown() const {
         QList<int> values;
         for (int i = 0; i < MaxDice; ++i) {
             const auto* place = form->findChild<CaptionLabel*>(ElementName("Label1", i));
-            EXPECT_EQ(place->ShownText(), place->text()) << "a figure that is cut off";
-            if (!place->text().isEmpty()) {
-                values << place->text().toInt();
+            EXPECT_EQ(place->ShownText(), place->Caption()) << "a figure that is cut off";
+            if (!place->Caption().isEmpty()) {
+                values << place->Caption().toInt();
                 EXPECT_TRUE(values.last() >= 1 && values.last() <= 10) << values.last();
             }
         }

@@ -1,7 +1,7 @@
-#include "dialogs/game_file.h"
+#include "saves/game_file.h"
 #include "dialogs/load_form.h"
 #include "dialogs/save_form.h"
-#include "sample_game.h"
+#include "tests/saves/sample_game.h"
 #include "tests/window_test.h"
 
 #include <QApplication>

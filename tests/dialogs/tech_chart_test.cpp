@@ -14,10 +14,10 @@ struct Rect {
     int Left, Top, Right, Bottom;
 
     Rect Grown(int by) const { return {Left - by, Top - by, Right + by, Bottom + by}; }
-    bool Contains(ChartPoint p) const {
+    bool Contains(Point p) const {
         return Left <= p.X && p.X <= Right && Top <= p.Y && p.Y <= Bottom;
     }
-    bool HasOnEdge(ChartPoint p) const { return Contains(p) && !Grown(-1).Contains(p); }
+    bool HasOnEdge(Point p) const { return Contains(p) && !Grown(-1).Contains(p); }
 };
 
 Rect Bounds(const Technology& t) {
@@ -34,7 +34,7 @@ bool Touch(const Connector& a, const Connector& b) {
            Bounds(b).Contains(a.To);
 }
 
-bool OnDiamond(const ChartMark& mark, ChartPoint p) {
+bool OnDiamond(const ChartMark& mark, Point p) {
     return mark.Shape == MarkShape::Diamond &&
            std::abs(p.X - mark.At.X) + std::abs(p.Y - mark.At.Y) == StrokeSize;
 }
@@ -53,7 +53,7 @@ public:
     std::set<std::set<int>> Origins(const Connector& line) const {
         std::set<std::set<int>> origins;
         for (const Connector* joined : Joined(line)) {
-            for (const ChartPoint end : {joined->From, joined->To}) {
+            for (const Point end : {joined->From, joined->To}) {
                 for (std::size_t i = 0; i < chart.Label1.size(); ++i) {
                     const Rect box = Bounds(chart.Label1[i]);
                     if (box.HasOnEdge(end) && end.Y > box.Top && !HasMark(end))
@@ -71,7 +71,7 @@ public:
     std::vector<const Connector*> Into(const ChartMark& diamond) const {
         std::vector<const Connector*> inputs;
         for (const Connector& line : Lines) {
-            for (const ChartPoint end : {line.From, line.To}) {
+            for (const Point end : {line.From, line.To}) {
                 if (OnDiamond(diamond, end) && end.Y <= diamond.At.Y)
                     inputs.push_back(&line);
             }
@@ -123,7 +123,7 @@ private:
         return needed;
     }
 
-    bool HasMark(ChartPoint at) const {
+    bool HasMark(Point at) const {
         return std::ranges::count(chart.Marks, at, &ChartMark::At) > 0;
     }
 
@@ -178,17 +178,17 @@ TEST_P(TechCharts, ShowThePrerequisitesOfTheirTables) {
 }
 
 TEST_P(TechCharts, LeadEveryLineFromOneOriginAndThroughDiamondsOnlyWhereLinesJoin) {
-    using namespace chart_ink;
+
     for (const auto& line : picture.Lines) {
         SCOPED_TRACE(testing::Message() << line.From.X << ", " << line.From.Y);
         EXPECT_TRUE(line.From.X == line.To.X || line.From.Y == line.To.Y);
         const auto origins = picture.Origins(line);
         ASSERT_EQ(origins.size(), 1U);
-        if (line.Ink != BlackInk) {
+        if (line.Ink != colour::Black) {
             ASSERT_EQ(origins.begin()->size(), 1U);
             const auto source = static_cast<std::size_t>(*origins.begin()->begin());
             const auto field = static_cast<std::size_t>(chart.Label1[source].Field);
-            EXPECT_EQ(line.Ink, (std::array{OrangeInk, GreenInk, BlueInk, RedInk}.at(field)));
+            EXPECT_EQ(line.Ink, (std::array{colour::Orange, colour::DarkGreen, colour::Blue, colour::Red}.at(field)));
         }
     }
     for (const ChartMark& mark : chart.Marks) {

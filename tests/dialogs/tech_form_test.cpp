@@ -1,3 +1,4 @@
+#include "controls/qt_values.h"
 #include "dialogs/tech_form.h"
 #include "tests/window_test.h"
 

@@ -15,7 +15,7 @@ TEST(UpdateTechBoxes, EnablesWhatIsOwnedOrCanBeResearched) {
             {"Micro Tech. keeps itself only", {false, false, true}, {true, true}, {false, true}},
         };
     for (const auto& [name, owned, before, after] : cases) {
-        PlayerControls boxes;
+        PlayerRecord boxes;
         boxes.Enviro = owned[0];
         boxes.PellamTools = owned[1];
         boxes.Micro = owned[2];

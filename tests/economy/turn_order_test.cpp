@@ -5,10 +5,12 @@
 namespace ksm {
 namespace {
 
-std::vector<int> Order(const GameState& state) {
+std::vector<int> Order(Game& game) {
+    TurnOrder(game);
     std::vector<int> players;
-    for (const TurnOrderRow& row : TurnOrder(state))
+    for (const TurnOrderRow& row : game.TurnOrderRows) {
         players.push_back(row.Player);
+    }
     return players;
 }
 
@@ -33,11 +35,13 @@ TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
 
 TEST(TurnOrder, OnlyADravikPlayerWithoutAgreementIsItalic) {
     GameState state;
-    state.Controls[4].Race = Race::Dravik;
-    state.Controls[5].Race = Race::Orrun;
+    state.Player(4).Race = Race::Dravik;
+    state.Player(5).Race = Race::Orrun;
     const auto expectItalic = [&state](int italic) {
-        for (const TurnOrderRow& row : TurnOrder(state))
+        TurnOrder(state);
+        for (const TurnOrderRow& row : state.TurnOrderRows) {
             EXPECT_EQ(row.Italic, row.Player == italic) << row.Player;
+        }
     };
     expectItalic(4);
     state.Cell(5, 6) = Agreement;

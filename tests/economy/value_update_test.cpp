@@ -22,12 +22,12 @@ struct Table : GameState {
         Cell(maker, partner) = Agreement;
         return *this;
     }
-    Table& Has(bool PlayerControls::*technology, int player = 1) {
-        Controls[player].*technology = true;
+    Table& Has(bool PlayerRecord::*technology, int player = 1) {
+        Player(player).*technology = true;
         return *this;
     }
     Table& Plays(int player, Race race) {
-        Controls[player].Race = race;
+        Player(player).Race = race;
         return *this;
     }
     Table& Law(bool LawMarks::*law) {
@@ -35,8 +35,6 @@ struct Table : GameState {
         return *this;
     }
 };
-
-using Controls = PlayerControls;
 
 // What players 1 and 2 then read: resources, influence and credits.
 struct FigureCase {
@@ -51,11 +49,11 @@ const FigureCase FigureCases[]{
     // Planets add up, exactly above one byte.
     {Table().Planet(1, 255, 250).Planet(1, 2, 14), {257, 264, 257}},
     // Pellam Tools: one resource a planet, which are credits too.
-    {Table().Planet(1, 3, 0).Planet(1, 2, 0).Has(&Controls::PellamTools), {7, 0, 7}},
+    {Table().Planet(1, 3, 0).Planet(1, 2, 0).Has(&PlayerRecord::PellamTools), {7, 0, 7}},
     // Enviro Comp.: one influence a space dock.
-    {Table().Has(&Controls::Enviro), {0, 1, 0}},
+    {Table().Has(&PlayerRecord::Enviro), {0, 1, 0}},
     // Labour Union: credits follow the exchanged resources.
-    {Table().Planet(1, 5, 7).Has(&Controls::Enviro).Law(&LawMarks::LabourUnion), {8, 5, 8}},
+    {Table().Planet(1, 5, 7).Has(&PlayerRecord::Enviro).Law(&LawMarks::LabourUnion), {8, 5, 8}},
     // An agreement brings the partner's planets, under Trade Restrictions the smaller count.
     {Table().Empty(1, 4).Empty(2, 7).Agree(2, 1), {0, 0, 7}, {0, 0, 4}},
     {Table().Empty(1, 4).Empty(2, 7).Agree(1, 2).Law(&LawMarks::TradeRestrictions),
@@ -64,7 +62,7 @@ const FigureCase FigureCases[]{
     // Free Trade: five for each partner.
     {Table().Agree(1, 2).Agree(3, 1).Law(&LawMarks::FreeTrade), {0, 0, 10}, {0, 0, 5}},
     // Micro Tech.: three for each partner in the game, none for one beyond it.
-    {Table().Agree(1, 2).Agree(4, 1).Agree(1, 7).Has(&Controls::Micro), {0, 0, 6}},
+    {Table().Agree(1, 2).Agree(4, 1).Agree(1, 7).Has(&PlayerRecord::Micro), {0, 0, 6}},
     // Orrun: every agreement in play, also between others.
     {Table().Plays(1, Race::Orrun).Agree(2, 3).Agree(3, 4).Agree(4, 2), {0, 3, 0}},
     // Altheran: planets other than home, which brings another race nothing.
@@ -104,7 +102,7 @@ TEST(UpdateValues, CostsFollowTheInputs) {
         // Each specialty discounts its colour by the planet's resources, one more by Pellam Tools.
         {Table().Planet(1, 3, 9, Red).Planet(1, 2, 9, Blue).Planet(1, 4, 9), {27, 28, 30, 30}},
         {Table().Planet(1, 3, 0, Red).Planet(1, 2, 9, Green), {27, 30, 28, 30}},
-        {Table().Planet(1, 3, 0, Red).Planet(1, 2, 0, Red).Has(&Controls::PellamTools),
+        {Table().Planet(1, 3, 0, Red).Planet(1, 2, 0, Red).Has(&PlayerRecord::PellamTools),
          {23, 30, 30, 30}},
         // A discount ends at the base cost; modifiers go on top and can make a cost negative.
         {cheapBlue, {0, 0, 30, 30}},

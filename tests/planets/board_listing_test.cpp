@@ -22,7 +22,7 @@ TEST(BoardListing, ScrollsAsFarAsTheLastPage) {
           std::tuple{101, AllPlanets, 89}, std::tuple{24, 3, 0}, std::tuple{26, 3, 1},
           std::tuple{26, 4, 0}, std::tuple{26, NeutralOwner, 1}}) {
         GameState state = BoardGame(planets);
-        state.BoardPlayer = owner;
+        state.View.BoardPlayer = owner;
         state.Planet(25).Owner = 4;
         EXPECT_EQ(BoardMaximum(state), maximum)
             << planets << " of owner " << owner << ", as last counted";
@@ -32,7 +32,7 @@ TEST(BoardListing, ScrollsAsFarAsTheLastPage) {
 TEST(BoardListing, ListsFromThePositionInTableOrder) {
     struct Row {
         int Planets, Owner, Position;
-        BoardRows Rows; ///< where there is no planet, rows stay as they are
+        BoardRows Rows;
     };
     constexpr auto none = NoPlanet;
     for (const auto& [planets, owner, position, expected] :
@@ -41,11 +41,9 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
           Row{26, 3, 1, {2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24}},
           Row{4, 3, 0, {0, 2, none, none, none, none, none, none, none, none, none, none}}}) {
         GameState state = BoardGame(planets);
-        state.BoardPlayer = owner;
-        state.BoardPosition = position;
-        BoardRows rows = EmptyBoardRows();
-        ListBoard(state, rows);
-        EXPECT_EQ(rows, expected) << planets << " of owner " << owner;
+        state.View.BoardPlayer = owner;
+        state.View.BoardPosition = position;
+        EXPECT_EQ(ListBoard(state), expected) << planets << " of owner " << owner;
     }
 }
 

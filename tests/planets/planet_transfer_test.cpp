@@ -28,7 +28,7 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     EXPECT_EQ(List(state, NeutralOwner).size(), 18U);
     EXPECT_EQ(List(state, NeutralOwner).front(), 1);
 
-    state.BoardPlayer = 3;
+    state.View.BoardPlayer = 3;
     EXPECT_TRUE(TransferPlanet(state, 0, NeutralOwner));
     EXPECT_EQ(List(state, 3), std::vector{7});
     EXPECT_EQ(List(state, NeutralOwner).back(), 0) << "appended, not sorted in";
@@ -62,7 +62,7 @@ TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
 
 TEST(PlanetTransfer, SomeDropsAreRefused) {
     GameState state;
-    state.BoardPlayer = 2;
+    state.View.BoardPlayer = 2;
     for (const auto& [owner, planet, accepted] :
          {std::tuple{3, 7, true}, std::tuple{NeutralOwner, 0, true}, std::tuple{2, 7, false},
           std::tuple{AllPlanets, 7, false}, std::tuple{3, int{NoPlanet}, false}})

@@ -17,7 +17,7 @@ GameState NamedPlayers() {
 
 enum Click : int { Add = -1, Remove = -2, Tres = -3, TStop = -4 };
 
-TradeOutcome Do(GameState& state, int click) {
+TradeOutcome Do(Game& state, int click) {
     TradeOutcome outcome;
     if (click == Add) {
         AddTAbutton_Click(state);
@@ -99,7 +99,7 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
 }
 
 TEST(TradeLaws, TogglesReportAndReturnToWhatTheyWere) {
-    const std::tuple<TradeOutcome (*)(GameState&), bool LawMarks::*, const char*, const char*>
+    const std::tuple<TradeOutcome (*)(Game&), bool LawMarks::*, const char*, const char*>
         laws[]{
             {TFree_Click, &LawMarks::FreeTrade, "\r\n\r\nFREE TRADE!", "\r\n\r\nFree Trade ends."},
             {TRestr_Click, &LawMarks::TradeRestrictions, "\r\nTRADE RESTRICTIONS!",

@@ -1,5 +1,5 @@
 #include "tests/game_window.h"
-#include "trade/message_label.h"
+#include "controls/message_label.h"
 
 namespace ksm {
 namespace {
@@ -11,7 +11,7 @@ struct TradeGame : GameWindow {
             state.Player(player).Name = std::string("P").append(std::to_string(player));
     }
 
-    std::string Info() const { return Find<QLabel>("TInfo")->text().toStdString(); }
+    std::string Info() const { return Find<MessageLabel>("TInfo")->Caption().toStdString(); }
     void Agree(int one, int other) const {
         Click("AddTAbutton");
         Click("TradePlayer", one);
@@ -34,7 +34,7 @@ TEST(TradePanel, AnAgreementIsCountedPaidAndDrawn) {
     game.state.Planet(0).Owner = 5;
     game.Agree(1, 5);
     EXPECT_EQ(game.Info(), "P5 and P1 make a TA");
-    EXPECT_EQ(game.Find("TradeNumber")->text(), "There is one Trade Agreement in play.");
+    EXPECT_EQ(game.Find("TradeNumber")->Caption(), "There is one Trade Agreement in play.");
     EXPECT_EQ(game.Caption("PlayerCredits", 1), "1");
     game.Click("PlayerName", 1);
     game.Click("NameColor", 3);
@@ -45,7 +45,7 @@ TEST(TradePanel, AnAgreementIsCountedPaidAndDrawn) {
     game.Click("RemoveTAButton");
     game.Click("TradePlayer", 3);
     game.Click("TradePlayer", 2);
-    EXPECT_EQ(game.Find("TradeNumber")->text(), "There is one Trade Agreement in play.");
+    EXPECT_EQ(game.Find("TradeNumber")->Caption(), "There is one Trade Agreement in play.");
     EXPECT_EQ(game.Between(1, 5), QColor(255, 255, 0)) << "drawn anew";
 }
 
@@ -81,7 +81,7 @@ TEST(MessageLabel, ShowsTheWholeMessageOfTwoLongNames) {
     const QString message =
         "Alexandra the Great and Maximilian of Orm are not allowed to trade with eachother";
     label.SetCaption(message);
-    const QFontMetrics metrics(label.FittingFont());
+    const QFontMetrics metrics(label.ShownFont());
     const QRect needed = metrics.boundingRect(label.rect(), Qt::TextWordWrap, message);
     EXPECT_TRUE(needed.height() <= 57 && needed.width() <= 73);
 }

@@ -1,4 +1,4 @@
-#include "dialogs/game_file.h"
+#include "saves/game_file.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -23,11 +23,13 @@ QString SaveGameFile(const QString& path, const GameState& state) {
         return "The game is larger than 1 MiB, the most that a saved game can hold. "
                "Shorten the notes.";
     }
-    if (IsNoFile(path))
+    if (IsNoFile(path)) {
         return NoFile;
+    }
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly)) {
         return file.errorString();
+    }
     // On a full disk only the count and flushing tell; a commit alone would report success and
     // leave a file that is cut off.
     if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFile::NoError) {
@@ -40,15 +42,17 @@ QString SaveGameFile(const QString& path, const GameState& state) {
 }
 
 ReadGameResult LoadGameFile(const QString& path) {
+    if (IsNoFile(path)) {
+        return {{}, NoFile};
+    }
     QFile file(path);
-    // Reading a pipe could wait forever.
-    if (QFileInfo(path).exists() && !QFileInfo(path).isFile())
-        return {{}, "This is not a file."};
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return {{}, file.errorString()};
+    }
     const QByteArray bytes = file.read(LargestGameFile + 1);
-    if (file.error() != QFile::NoError)
+    if (file.error() != QFile::NoError) {
         return {{}, file.errorString()};
+    }
     return ReadGame(bytes);
 }
 

@@ -1,4 +1,4 @@
-#include "app/races.h"
+#include "economy/game_setup.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
         {Race::Khorrum, 30, 30, false, {"Sennavor", "Gor'Tash"}},
         {Race::Orrun, 30, 30, false, {"Pellis Tau", "Pellis Ren"}}};
     for (const auto& [race, red, others, enviro, homes] : rows) {
-        SCOPED_TRACE(Caption(race));
+        SCOPED_TRACE(TraitsOf(race).Caption);
         GameState state = GameWithPlanets({"Quessin", "Belthune", "Miradel", "Ostrane", "Ith",
                                            "Veran", "Ossa Prime", "Calix Terra", "Sennavor",
                                            "Gor'Tash", "Pellis Tau", "Pellis Ren", "Ith ", "ith"});
@@ -44,8 +44,8 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
         EXPECT_EQ(player.BlueCost, others);
         EXPECT_EQ(player.YellowCost, others);
         EXPECT_EQ(player.GreenCost, others);
-        EXPECT_EQ(state.Controls[2].Enviro, enviro);
-        EXPECT_EQ(state.Controls[2].MicroEnabled, enviro);
+        EXPECT_EQ(state.Player(2).Enviro, enviro);
+        EXPECT_EQ(state.Player(2).MicroEnabled, enviro);
         EXPECT_EQ(PlanetsOf(state, 2), homes);
     }
 }
@@ -55,7 +55,7 @@ TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
     ChooseRace(state, 1, Race::IthVeran);
     ChooseRace(state, 2, Race::IthVeran);
     EXPECT_EQ(PlanetsOf(state, 2), (Names{"Ith", "Veran", "Veran"})) << "a name on the list twice";
-    EXPECT_EQ(state.Controls[1].Race, Race::IthVeran);
+    EXPECT_EQ(state.Player(1).Race, Race::IthVeran);
     EXPECT_EQ(state.Player(1).RedCost, 40);
     state.Planet(0).Owner = 4;
     state.Planet(3).Owner = 2;
@@ -66,11 +66,11 @@ TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
 TEST(Races, ATickedTechnologyOutlivesTheRaceThatAllowedIt) {
     GameState state = GameWithPlanets({"Quessin"});
     ChooseRace(state, 1, Race::Altheran);
-    state.Controls[1].Micro = true;
+    state.Player(1).Micro = true;
     ChooseRace(state, 1, Race::Khorrum);
-    EXPECT_FALSE(state.Controls[1].Enviro);
-    EXPECT_FALSE(state.Controls[1].PellamToolsEnabled);
-    EXPECT_TRUE(state.Controls[1].Micro && state.Controls[1].MicroEnabled);
+    EXPECT_FALSE(state.Player(1).Enviro);
+    EXPECT_FALSE(state.Player(1).PellamToolsEnabled);
+    EXPECT_TRUE(state.Player(1).Micro && state.Player(1).MicroEnabled);
 }
 
 } // namespace

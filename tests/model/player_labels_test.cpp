@@ -1,15 +1,16 @@
 #include "model/game_state.h"
+#include "model/player_labels.h"
 
 #include <gtest/gtest.h>
 
 namespace ksm {
 namespace {
 
-TEST(GameState, APlayerIsCalledByTheDesignTextUntilNamedEvenWithNothing) {
+TEST(PlayerLabels, APlayerIsCalledByTheDesignTextUntilNamedEvenWithNothing) {
     GameState state;
     EXPECT_EQ(PlayerCaption(state, 10), "Player10");
     EXPECT_EQ(OwnerCaption(state, 10), "Player 10");
-    state.Controls[10].Named = true;
+    state.Player(10).Named = true;
     EXPECT_EQ(PlayerCaption(state, 10), "");
     state.Player(10).Name = "Ada";
     EXPECT_EQ(OwnerCaption(state, 10), "Ada");

@@ -1,7 +1,7 @@
 // Saved games on disk.
 #pragma once
 
-#include "dialogs/game_text.h"
+#include "saves/game_text.h"
 
 namespace ksm {
 

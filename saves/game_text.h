@@ -4,11 +4,10 @@
 #include "model/game_state.h"
 
 #include <QByteArray>
+#include <QJsonDocument>
 #include <QString>
 
-#include <array>
 #include <optional>
-#include <string_view>
 
 namespace ksm {
 
@@ -18,18 +17,13 @@ inline constexpr qsizetype LargestGameFile = qsizetype{1024} * 1024;
 inline constexpr auto GameFormat = "Korvane Astrell Manager II saved game";
 inline constexpr int GameFormatVersion = 1;
 
-// How the saved game spells enumerations, in their order. A race is spelled as its caption.
-inline constexpr std::array<std::string_view, 4> SpecialtyWords{"none", "blue", "green", "red"};
-inline constexpr std::array<std::string_view, 7> TradeModeWords{
-    "idle",           "add first",          "add partner",        "remove first",
-    "remove partner", "independence first", "independence second"};
-
-/// The game as JSON in UTF-8: every input, no derived figure. The same game gives the same bytes.
-QByteArray WriteGame(const GameState& state);
+/// The game as JSON in UTF-8: every input, and nothing that follows from other members. The same
+/// game gives the same bytes.
+QByteArray WriteGame(const GameState& state,
+                     QJsonDocument::JsonFormat format = QJsonDocument::Indented);
 
 struct ReadGameResult {
-    /// Set when nothing at all is wrong. Its derived figures are those of a new game: they are to
-    /// be recomputed.
+    /// Set when nothing at all is wrong: the whole game, its figures computed.
     std::optional<GameState> Game;
     QString Problem; ///< otherwise what is wrong first, as a sentence
 };

@@ -1,0 +1,18 @@
+// Tooltips whose text is taken as it is.
+#pragma once
+
+#include <QString>
+
+class QHelpEvent;
+class QWidget;
+
+namespace ksm {
+
+/// The text for a tooltip or message box that would take a name with angle brackets for markup.
+/// Lines break at blanks.
+QString PlainText(const QString& text);
+
+/// Answers a request for the tooltip of `control`; an empty text hides the one that is shown.
+void ShowPlainToolTip(const QHelpEvent& request, const QString& text, QWidget* control);
+
+} // namespace ksm

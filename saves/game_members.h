@@ -1,0 +1,171 @@
+// What a saved game holds, member by member: one description, by which games are written and read.
+#pragma once
+
+#include "model/game_state.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+namespace ksm {
+
+// A member is handed to `members`, which is a JsonWriter with constant values or a JsonReader with
+// values to fill. Where a list is kept in another form than it is saved in, it is converted here,
+// back only in reading.
+
+// How enumerations are spelled, in their order.
+inline constexpr std::array<std::string_view, SpecialtyCount> SpecialtyWords{"none", "blue",
+                                                                             "green", "red"};
+inline constexpr std::array<std::string_view, 7> TradeModeWords{
+    "idle",           "add first",          "add partner",        "remove first",
+    "remove partner", "independence first", "independence second"};
+inline constexpr auto RaceWords = [] {
+    std::array<std::string_view, Races.size()> words;
+    std::ranges::transform(Races, words.begin(), &RaceTraits::Caption);
+    return words;
+}();
+
+/// The planets of a list without the free slots at its end.
+inline std::vector<std::uint8_t> Packed(const PlanetIndexList& list) {
+    return {list.begin(), std::ranges::find(list, NoPlanet)};
+}
+
+struct SavedAgreement {
+    int Maker = 0;
+    int Partner = 0;
+};
+
+inline std::vector<SavedAgreement> Agreements(const Game& game) {
+    std::vector<SavedAgreement> agreements;
+    for (int maker = 1; maker <= MaxPlayers; ++maker) {
+        for (int partner = 1; partner <= MaxPlayers; ++partner) {
+            if (game.Cell(maker, partner) != NoAgreement) {
+                agreements.push_back({maker, partner});
+            }
+        }
+    }
+    return agreements;
+}
+
+struct GameMembers {
+    template<typename Members, typename State>
+    static void Describe(Members& members, State& state) {
+        members.Number("NumPlayers", state.NumPlayers, MinPlayers, MaxPlayers);
+        members.Truth("Started", state.Started);
+        DescribePlanets(members, state);
+        DescribePlanetList(members, "NeutralPlanetList", state.Player(NeutralOwner),
+                           state.NumPlanets);
+        DescribePlayers(members, state);
+        DescribeTrade(members, state);
+        members.Object("Laws", state.Laws, [](auto& laws, auto& marks) {
+            laws.Truth("LabourUnion", marks.LabourUnion);
+            laws.Truth("EconomicIndependence", marks.EconomicIndependence);
+            laws.Truth("FreeTrade", marks.FreeTrade);
+            laws.Truth("TradeRestrictions", marks.TradeRestrictions);
+            laws.Truth("OrlenHouseRules", marks.OrlenHouseRules);
+        });
+        members.Number("GreenModifier", state.GreenModifier, 0, MaxModifier);
+        members.Number("BlueModifier", state.BlueModifier, 0, MaxModifier);
+        members.Number("YellowModifier", state.YellowModifier, 0, MaxModifier);
+        members.Number("RedModifier", state.RedModifier, 0, MaxModifier);
+        // The marks of a drag are not worth keeping.
+        members.Number("BoardPlayer", state.View.BoardPlayer, 0, AllPlanets);
+        members.Number("BoardPosition", state.View.BoardPosition, 0, MaxPlanets - BoardRowCount);
+        members.Number("EditedPlayer", state.View.EditedPlayer, 0, MaxPlayers);
+        members.Text("NotesText", state.NotesText);
+    }
+
+private:
+    template<typename Members, typename State>
+    static void DescribePlanets(Members& members, State& state) {
+        const auto loaded = state.LoadedPlanets();
+        std::vector<PlanetRecord> planets(loaded.begin(), loaded.end());
+        members.List("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
+            constexpr int LargestByte = std::numeric_limits<std::uint8_t>::max();
+            planet.Text("Name", record.Name);
+            planet.Number("Resources", record.Resources, 0, LargestByte);
+            planet.Number("Influence", record.Influence, 0, LargestByte);
+            planet.Word("Specialty", record.Specialty, SpecialtyWords);
+            planet.Number("Owner", record.Owner, NeutralOwner, MaxPlayers);
+        });
+        if constexpr (Members::Reading) {
+            state.NumPlanets = static_cast<int>(planets.size());
+            std::ranges::move(planets, state.Planets.begin());
+        }
+    }
+
+    // A list may hold planets that its owner lost, and one planet twice: transfers leave that
+    // behind.
+    template<typename Members, typename Record>
+    static void DescribePlanetList(Members& members, const char* name, Record& record,
+                                   int planets) {
+        std::vector<std::uint8_t> list = Packed(record.PlanetList);
+        members.Numbers(name, list, MaxPlanets, 0, planets - 1);
+        if constexpr (Members::Reading) {
+            std::ranges::copy(list, record.PlanetList.begin());
+        }
+    }
+
+    // The first player has number 1 and stands at place 0 of the list. The costs follow from the
+    // race.
+    template<typename Members, typename State>
+    static void DescribePlayers(Members& members, State& state) {
+        const auto players = std::span(state.Players).subspan(1, MaxPlayers);
+        members.Elements("Players", players, [&](auto& player, auto& record) {
+            player.Text("Name", record.Name);
+            player.Truth("Named", record.Named);
+            player.Text("ShortName", record.ShortName);
+            player.Object("NameColours", record.NameColours, DescribeColours);
+            player.Object("TradeColours", record.TradeColours, DescribeColours);
+            player.Word("Race", record.Race, RaceWords);
+            player.Number("SpaceDocks", record.SpaceDocks, 0, MaxSpaceDocks);
+            player.Truth("Enviro", record.Enviro);
+            player.Truth("PellamTools", record.PellamTools);
+            player.Truth("PellamToolsEnabled", record.PellamToolsEnabled);
+            player.Truth("Micro", record.Micro);
+            player.Truth("MicroEnabled", record.MicroEnabled);
+            DescribePlanetList(player, "PlanetList", record, state.NumPlanets);
+            player.Number("TradeRing", record.TradeRing, MinPlayers, MaxPlayers);
+        });
+    }
+
+    static constexpr auto DescribeColours = [](auto& pair, auto& colours) {
+        pair.Hue("Back", colours.Back);
+        pair.Hue("Text", colours.Text);
+    };
+
+    template<typename Members, typename State>
+    static void DescribeTrade(Members& members, State& state) {
+        std::vector<SavedAgreement> agreements = Agreements(state);
+        members.List("TradeAgreements", agreements, 0, MaxAgreements, [](auto& pair, auto& saved) {
+            pair.Number("Maker", saved.Maker, 1, MaxPlayers);
+            pair.Number("Partner", saved.Partner, 1, MaxPlayers);
+        });
+        if constexpr (Members::Reading) {
+            for (const SavedAgreement& saved : agreements) {
+                state.Cell(saved.Maker, saved.Partner) = Agreement;
+            }
+        }
+        members.Word("TradeMode", state.TradeMode, TradeModeWords);
+        members.Number("TradeFirst", state.TradeFirst, 0, MaxPlayers);
+        members.Text("TradeInfo", state.TradeInfo);
+        members.Number("IndepFirst", state.IndepFirst, 0, MaxPlayers);
+        members.Number("IndepSecond", state.IndepSecond, 0, MaxPlayers);
+        members.List("TradeStrokes", state.TradeStrokes, 0, MaxStrokes,
+                     [](auto& stroke, auto& drawn) {
+                         stroke.Object("From", drawn.From, DescribePoint);
+                         stroke.Object("To", drawn.To, DescribePoint);
+                         stroke.Hue("Colour", drawn.Colour);
+                         stroke.Number("Width", drawn.Width, 1, 6);
+                     });
+    }
+
+    static constexpr auto DescribePoint = [](auto& point, auto& place) {
+        point.Number("X", place.X, 0, 300);
+        point.Number("Y", place.Y, 0, 180);
+    };
+};
+
+} // namespace ksm

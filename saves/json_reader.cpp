@@ -1,0 +1,118 @@
+#include "saves/json_reader.h"
+
+#include <algorithm>
+
+namespace ksm {
+
+JsonReader::JsonReader(const QJsonValue& object, const QString& place, QString& problem)
+    : rest(object.toObject()), ownPlace(place), firstProblem(problem) {
+    if (!object.isObject()) {
+        Refuse(place, "is not an object");
+    }
+}
+
+void JsonReader::Truth(const char* name, bool& value) {
+    const QJsonValue found = Take(name);
+    if (!found.isBool()) {
+        Refuse(Place(name), "is neither true nor false");
+    }
+    value = found.toBool(value);
+}
+
+void JsonReader::Text(const char* name, std::string& utf8) {
+    const QJsonValue found = Take(name);
+    QString text = found.toString();
+    if (!found.isString() || !text.isValidUtf16()) {
+        Refuse(Place(name), "is not a text");
+        return;
+    }
+    // At the beginning of a text Qt takes a byte order mark for none of its characters.
+    while (text.startsWith(QChar::ByteOrderMark)) {
+        text.remove(0, 1);
+    }
+    utf8 = text.toStdString();
+}
+
+void JsonReader::Hue(const char* name, Colour& colour) {
+    const QString text = Take(name).toString();
+    bool isNumber = false;
+    const uint number = QStringView(text).mid(1).toUInt(&isNumber, 16);
+    if (text.size() != 7 || !text.startsWith('#') || !isNumber) {
+        Refuse(Place(name), "is not a colour such as #FF8000");
+        return;
+    }
+    const auto part = [&](int bits) { return static_cast<std::uint8_t>(number >> bits & 0xFF); };
+    colour = {part(16), part(8), part(0)};
+}
+
+void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, int longest,
+                         int least, int most) {
+    values.clear();
+    for (const QJsonValue element : TakeList(name, 0, longest)) {
+        const QString place = Place(name, static_cast<qsizetype>(values.size()));
+        values.push_back(
+            static_cast<std::uint8_t>(CheckNumber(element, place, least, least, most)));
+    }
+}
+
+void JsonReader::Finish() {
+    if (!rest.isEmpty()) {
+        Refuse(Place(qPrintable(rest.begin().key().left(40))), "is unknown");
+    }
+}
+
+QJsonValue JsonReader::Take(const char* name) {
+    QJsonValue value = rest.take(QLatin1StringView(name));
+    if (value.isUndefined()) {
+        Refuse(Place(name), "is missing");
+    }
+    return value;
+}
+
+QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
+    const QJsonValue value = Take(name);
+    QJsonArray list = value.toArray();
+    if (value.isArray() && list.size() >= fewest && list.size() <= longest) {
+        return list;
+    }
+    Refuse(Place(name), QString("is not a list of %1 to %2 elements").arg(fewest).arg(longest));
+    return {};
+}
+
+int JsonReader::CheckNumber(const QJsonValue& value, const QString& where, int otherwise,
+                            int least, int most) {
+    const qint64 number = value.toInteger(qint64{least} - 1);
+    if (number >= least && number <= most) {
+        return static_cast<int>(number);
+    }
+    Refuse(where, QString("is not a whole number from %1 to %2").arg(least).arg(most));
+    return otherwise;
+}
+
+std::size_t JsonReader::CheckWord(const char* name, std::size_t otherwise,
+                                  std::span<const std::string_view> words) {
+    std::string word;
+    Text(name, word);
+    const auto found = std::ranges::find(words, word);
+    if (found != words.end()) {
+        return static_cast<std::size_t>(found - words.begin());
+    }
+    Refuse(Place(name), "is none of the words allowed there");
+    return otherwise;
+}
+
+QString JsonReader::Place(const char* name) const {
+    return ownPlace.isEmpty() ? QString(name) : ownPlace + '.' + name;
+}
+
+QString JsonReader::Place(const char* list, qsizetype index) const {
+    return Place(list) + QString("[%1]").arg(index);
+}
+
+void JsonReader::Refuse(const QString& where, const QString& what) {
+    if (firstProblem.isEmpty()) {
+        firstProblem = where + ' ' + what + '.';
+    }
+}
+
+} // namespace ksm

@@ -1,0 +1,100 @@
+// Takes a JSON object apart and checks what it holds.
+#pragma once
+
+#include "model/colour.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ksm {
+
+/// Hands out the members of an object, each once, into values that the caller has. Whatever is
+/// wrong first, with any object that shares `problem`, is described there, and the value stays as
+/// it was: the caller reads on and looks at the problem once, at the end.
+class JsonReader {
+public:
+    static constexpr bool Reading = true;
+
+    /// `place` says where in the file the object stands, as in "Players[3]"; it may be empty.
+    JsonReader(const QJsonValue& object, const QString& place, QString& problem);
+
+    template<typename Whole>
+    void Number(const char* name, Whole& value, int least, int most) {
+        value = static_cast<Whole>(CheckNumber(Take(name), Place(name), value, least, most));
+    }
+    void Truth(const char* name, bool& value);
+    void Text(const char* name, std::string& utf8);
+    void Hue(const char* name, Colour& colour);
+
+    /// One of `words`, which stand in the order of the enumeration.
+    template<typename Enum>
+    void Word(const char* name, Enum& value, std::span<const std::string_view> words) {
+        value = static_cast<Enum>(CheckWord(name, static_cast<std::size_t>(value), words));
+    }
+
+    template<typename Value, typename DescribeMembers>
+    void Object(const char* name, Value& value, const DescribeMembers& describe) {
+        Read(Take(name), Place(name), value, describe);
+    }
+
+    /// A list of at most `longest` numbers.
+    void Numbers(const char* name, std::vector<std::uint8_t>& values, int longest, int least,
+                 int most);
+
+    /// A list of exactly as many objects as there are values.
+    template<typename Value, typename DescribeMembers>
+    void Elements(const char* name, std::span<Value> values, const DescribeMembers& describe) {
+        const int count = static_cast<int>(values.size());
+        qsizetype index = 0;
+        for (const QJsonValue element : TakeList(name, count, count)) {
+            Read(element, Place(name, index), values[static_cast<std::size_t>(index)], describe);
+            ++index;
+        }
+    }
+
+    /// A list of `fewest` to `longest` objects.
+    template<typename Value, typename DescribeMembers>
+    void List(const char* name, std::vector<Value>& values, int fewest, int longest,
+              const DescribeMembers& describe) {
+        values.clear();
+        for (const QJsonValue element : TakeList(name, fewest, longest)) {
+            const QString place = Place(name, static_cast<qsizetype>(values.size()));
+            Read(element, place, values.emplace_back(), describe);
+        }
+    }
+
+    /// To be called after the last member was taken: refuses members that nobody knows.
+    void Finish();
+
+private:
+    template<typename Value, typename DescribeMembers>
+    void Read(const QJsonValue& object, const QString& place, Value& value,
+              const DescribeMembers& describe) {
+        JsonReader members(object, place, firstProblem);
+        describe(members, value);
+        members.Finish();
+    }
+
+    QJsonValue Take(const char* name);
+    QJsonArray TakeList(const char* name, int fewest, int longest);
+    int CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
+                    int most);
+    std::size_t CheckWord(const char* name, std::size_t otherwise,
+                          std::span<const std::string_view> words);
+    QString Place(const char* name) const;
+    QString Place(const char* list, qsizetype index) const;
+    /// Notes that `where` is wrong, unless something is already.
+    void Refuse(const QString& where, const QString& what);
+
+    QJsonObject rest;
+    QString ownPlace;
+    QString& firstProblem;
+};
+
+} // namespace ksm

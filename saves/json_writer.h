@@ -1,0 +1,72 @@
+// Puts a JSON object together, member by member.
+#pragma once
+
+#include "model/colour.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ksm {
+
+/// Takes the members of an object in any order. It has the functions of a JsonReader, so that one
+/// description of the members serves both; the ranges are the reader's business.
+class JsonWriter {
+public:
+    static constexpr bool Reading = false;
+
+    void Number(const char* name, int value, int, int) { Put(name, value); }
+    void Truth(const char* name, bool value) { Put(name, value); }
+    void Text(const char* name, const std::string& utf8);
+    void Hue(const char* name, Colour colour);
+
+    template<typename Enum>
+    void Word(const char* name, Enum value, std::span<const std::string_view> words) {
+        Put(name, QLatin1StringView(words[static_cast<std::size_t>(value)]));
+    }
+
+    template<typename Value, typename DescribeMembers>
+    void Object(const char* name, const Value& value, const DescribeMembers& describe) {
+        Put(name, Describe(value, describe));
+    }
+
+    void Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int);
+
+    template<typename Value, typename DescribeMembers>
+    void Elements(const char* name, std::span<const Value> values,
+                  const DescribeMembers& describe) {
+        QJsonArray list;
+        for (const Value& value : values) {
+            list.append(Describe(value, describe));
+        }
+        Put(name, list);
+    }
+
+    template<typename Value, typename DescribeMembers>
+    void List(const char* name, const std::vector<Value>& values, int, int,
+              const DescribeMembers& describe) {
+        Elements(name, std::span<const Value>(values), describe);
+    }
+
+    const QJsonObject& Result() const { return object; }
+
+private:
+    void Put(const char* name, const QJsonValue& value) {
+        object.insert(QLatin1StringView(name), value);
+    }
+
+    template<typename Value, typename DescribeMembers>
+    static QJsonObject Describe(const Value& value, const DescribeMembers& describe) {
+        JsonWriter members;
+        describe(members, value);
+        return members.object;
+    }
+
+    QJsonObject object;
+};
+
+} // namespace ksm

@@ -1,0 +1,99 @@
+#include "saves/game_text.h"
+#include "tests/saves/sample_game.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace ksm {
+namespace {
+
+TEST(GameText, EveryInputComesBack) {
+    GameState full = SampleGame();
+    for (PlanetRecord& planet : full.Planets) {
+        planet = {.Name = "P", .Resources = 255, .Influence = 255, .Owner = 3};
+    }
+    full.NumPlanets = MaxPlanets;
+    for (PlayerRecord& player : full.Players) {
+        player.PlanetList.fill(100);
+    }
+    for (const GameState& game : {SampleGame(), full}) {
+        for (const auto format : {QJsonDocument::Indented, QJsonDocument::Compact}) {
+            const QByteArray saved = WriteGame(game, format);
+            const ReadGameResult loaded = ReadGame(saved);
+            ASSERT_TRUE(loaded.Game) << loaded.Problem.toStdString();
+            EXPECT_EQ(WriteGame(*loaded.Game, format), saved);
+        }
+    }
+    EXPECT_TRUE(*ReadGame(WriteGame(SampleGame())).Game == SampleGame())
+        << "with every figure, though none is saved";
+    full.Player(3).Name = "no text: half \xED\xA0\xBD of a pair, cut \xF0\x9F";
+    EXPECT_TRUE(ReadGame(WriteGame(full)).Game);
+}
+
+// What stands in a whole file at least once, what damage makes of it, and what is then reported.
+const std::array<const char*, 3> Damages[]{
+    // Kinds of files.
+    {"Format", "Formal", "not a saved game of this program"},
+    {"\"Version\": 1", "\"Version\": 2, \"New\": {}", "later version"},
+    {"\"Version\": 1\n}", "\"Version\": 1\n", "or it is damaged"},
+    {"line 1", "line \xFF", "or it is damaged"},
+    // Members.
+    {"\"Started\": true", "\"Starter\": true", "Game.Started is missing"},
+    {"\"Started\": true", "\"Started\": true, \"Zeal\": 1", "Game.Zeal is unknown"},
+    {"\"SpaceDocks\": 10", "\"SpaceDocks\": 10, \"Zeal\": 1", "Game.Players[2].Zeal is unknown"},
+    // Types and ranges.
+    {"\"Started\": true", "\"Started\": 1", "Game.Started is neither true nor false"},
+    {"\"NumPlayers\": 4", "\"NumPlayers\": 11", "NumPlayers is not a whole number from 2 to 10"},
+    {"\"NumPlayers\": 4", "\"NumPlayers\": 3.5", "Game.NumPlayers is not"},
+    {"\"Influence\": 4", "\"Influence\": -1", "Game.Planets[21].Influence is not"},
+    {"\"Specialty\": \"red\"", "\"Specialty\": \"Red\"", "Specialty is none of the words"},
+    {"#0102FE", "#0102FG", "Players[2].NameColours.Back is not a colour"},
+    {"\"BoardPlayer\": 3", "\"BoardPlayer\": 21", "Game.BoardPlayer is not"},
+    {"\"TradeMode\": \"add partner\"", "\"TradeMode\": 2", "Game.TradeMode is not a text"},
+    {"line 1", "line \\uD83D", "Game.NotesText is not a text"},
+    {"\"Width\": 3", "\"Width\": 7", "TradeStrokes[0].Width is not"},
+    // References and lengths.
+    {"\"Owner\": 10", "\"Owner\": 11", "Planets[7].Owner is not a whole number from 0 to 10"},
+    {" 7,", " 22,", "Players[2].PlanetList[1] is not a whole number from 0 to 21"},
+    {"\"Planets\": [", "\"Planets\": [7,", "Game.Planets[0] is not an object"},
+    {"\"Players\": [", "\"Players\": [{},", "Game.Players is not a list of 10 to 10"},
+    {"\"Partner\": 5", "\"Partner\": 11", "TradeAgreements[0].Partner is not"},
+    // Parts that do not agree with one another.
+    {"\"Partner\": 5", "\"Partner\": 3", "TradeAgreements holds an agreement that cannot be made"},
+    {"\"Maker\": 10,\n                \"Partner\": 1", "\"Maker\": 5,\n\"Partner\": 3",
+     "TradeAgreements holds an agreement that cannot be made"},
+    {"\"TradeFirst\": 3", "\"TradeFirst\": 0", "Game.TradeFirst names no player"},
+    {"\"Named\": true", "\"Named\": false", "Players[2].Name belongs to a player who has no name"},
+    {"\"PellamToolsEnabled\": true", "\"PellamToolsEnabled\": false",
+     "PellamToolsEnabled contradicts"},
+    {"\"Micro\": true,\n                \"MicroEnabled\": true", "\"Micro\": true,\"MicroEnabled\": false",
+     "Players[4].MicroEnabled contradicts"},
+    {"\"TradeRing\": 4", "\"TradeRing\": 5", "Players[0].TradeRing is one without"},
+    {"\"TradeRing\": 9", "\"TradeRing\": 4", "Players[5].TradeRing is one without"},
+    {"\"Width\": 3", "\"Width\": 2", "TradeStrokes does not hold one line for each agreement"},
+    {"\"BoardPlayer\": 3", "\"BoardPlayer\": 5", "BoardPlayer is no owner that the board can show"},
+    {"\"BoardPosition\": 2", "\"BoardPosition\": 3", "BoardPosition lies behind the end"},
+    {"\"Started\": true", "\"Started\": false", "BoardPlayer is no owner"},
+};
+
+TEST(GameText, RefusesWhateverIsDamaged) {
+    const QByteArray whole = WriteGame(SampleGame());
+    for (const auto& [intact, damaged, problem] : Damages) {
+        QByteArray bytes = whole;
+        const qsizetype at = bytes.indexOf(intact);
+        ASSERT_GE(at, 0) << intact;
+        bytes.replace(at, static_cast<qsizetype>(qstrlen(intact)), damaged);
+        const ReadGameResult result = ReadGame(bytes);
+        EXPECT_FALSE(result.Game) << damaged;
+        EXPECT_TRUE(result.Problem.contains(problem))
+            << damaged << ": " << result.Problem.toStdString();
+    }
+    for (const char* other : {"", "PK\x03\x04", "{}", "[]", "7", "null", "\"Format\""})
+        EXPECT_FALSE(ReadGame(other).Problem.isEmpty()) << other;
+    for (qsizetype size = 0; size < whole.size() - 1; ++size)
+        EXPECT_FALSE(ReadGame(whole.first(size)).Game) << "cut at " << size;
+}
+
+} // namespace
+} // namespace ksm
