@@ -18,9 +18,9 @@ namespace ksm {
 namespace {
 
 struct SwatchDesign {
-    int Left; ///< twips, as `Top`
-    int Top;
-    const char* Name;
+    int Left = 0; ///< twips, as `Top`
+    int Top = 0;
+    const char* Name = "";
     ColourPair Colours;
 };
 

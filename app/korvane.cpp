@@ -151,7 +151,7 @@ void Korvane::ShowPlayer(int player) {
 void Korvane::ShowPhase() {
     setup->setVisible(!state.Started);
     table->ShowPhase();
-    // The setup panel covers them; the keyboard must not reach below it.
+    // The setup panel covers them; the focus must not get below it.
     summary->setEnabled(state.Started);
     board->setEnabled(state.Started);
 }

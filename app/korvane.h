@@ -64,7 +64,8 @@ private:
     void ShowPlayerControls(int player);
     void HidePlayerControls(int player);
     void ShowPlayer(int player);
-    /// Setup panel and race boxes before "START", summary and board after it.
+    /// Shows the controls of the phase: the setup panel and the race boxes until "START", from
+    /// then on the summary table and the planet board below them.
     void ShowPhase();
 
     void LGame_Click();

@@ -36,7 +36,7 @@ Form* Open(QWidget* owner, Arguments&... arguments) {
     return form;
 }
 
-// The same; the main window accepts no input until it is closed.
+// Makes and shows a modal window of this kind: the main window accepts no input until it is closed.
 template<typename Form, typename... Arguments>
 Form* OpenModal(QWidget* owner, Arguments&... arguments) {
     auto* form = new Form(arguments..., owner);

@@ -40,7 +40,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("ksm");
     QGuiApplication::setDesktopFileName("ksm");
-    ksm::ApplyLook(application);
+    ksm::ApplyLook();
     ksm::InstallAccessibleNames();
     QApplication::setWindowIcon(ksm::ProgramIcon());
 

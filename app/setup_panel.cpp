@@ -15,10 +15,10 @@ namespace {
 constexpr QRect Panel{0, 0, 337, 180};
 
 struct LabelDesign {
-    const char* Name;
-    const char* Caption;
+    const char* Name = "";
+    const char* Caption = "";
     QRect Place;
-    bool Bold;
+    bool Bold = false;
 };
 
 constexpr std::array<LabelDesign, 4> Labels{{

@@ -5,13 +5,13 @@
 
 namespace ksm {
 
-/// Holds the place of the running instance for as long as it lives. A program that crashed leaves a
-/// lock behind that the next one takes over.
+/// Locks a file of the user's for as long as it lives, which tells whether the program runs already.
+/// The lock of a program that crashed counts for nothing.
 class SingleInstance {
 public:
     SingleInstance();
 
-    /// Whether another instance holds the place already.
+    /// Whether another running program has the lock.
     bool OtherIsRunning() const { return otherIsRunning; }
 
 private:

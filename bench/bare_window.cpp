@@ -227,7 +227,8 @@ private:
             const bool shown = player <= players;
             if (shown) {
                 PlaceColumn(columns[player], ksm::PlaceOfColumn(player, players));
-                owners[static_cast<std::size_t>(player) + 1]->move(0, ksm::TopOfOwner(player, players));
+                owners[static_cast<std::size_t>(player) + 1]->move(
+                    0, ksm::TopOfOwner(player, players));
                 const ksm::Point place = ksm::PlaceInRing(player, players);
                 ring[player]->move(place.X, place.Y);
             }

@@ -99,15 +99,15 @@ void CaptionLabel::Fit() const {
 
 QPointF CaptionLabel::BaseLineStart(const QFontMetricsF& metrics) const {
     double x = 0;
-    if (alignment & Qt::AlignHCenter) {
+    if (alignment.testFlag(Qt::AlignHCenter)) {
         x = (width() - shownWidth) / 2;
-    } else if (alignment & Qt::AlignRight) {
+    } else if (alignment.testFlag(Qt::AlignRight)) {
         x = width() - shownWidth;
     }
     double y = metrics.ascent();
-    if (alignment & Qt::AlignVCenter) {
+    if (alignment.testFlag(Qt::AlignVCenter)) {
         y = (height() + metrics.capHeight()) / 2;
-    } else if (alignment & Qt::AlignBottom) {
+    } else if (alignment.testFlag(Qt::AlignBottom)) {
         y = height();
     }
     return {std::round(x), std::round(y)};

@@ -22,20 +22,20 @@ public:
     CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent);
 
     /// Writes only a caption that differs.
-    void SetCaption(const QString& caption);
+    void SetCaption(const QString& text);
     /// The whole caption, also where less of it is drawn.
     const QString& Caption() const { return caption; }
     /// The caption as it is drawn.
     QString ShownText() const;
 
-    void SetAlignment(Qt::Alignment alignment);
+    void SetAlignment(Qt::Alignment edges);
     void SetColours(const ColourPair& colours);
     void SetColours(const QColor& back, const QColor& text);
     void SetBackColour(const QColor& back);
     void SetTextColour(const QColor& text);
 
     /// What assistive technology says before the caption: "Influence, Player 3".
-    void SetHeading(const QString& heading);
+    void SetHeading(const QString& text);
     const QString& Heading() const { return heading; }
 
     /// Lets the mouse, and Space or Return after Tab, click the label.

@@ -9,9 +9,9 @@
 
 namespace ksm {
 
-ChoiceBox::ChoiceBox(const QString& objectName, const QString& caption, const QStringList& entries,
+ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringList& entries,
                      QWidget* parent)
-    : QComboBox(parent), emptyCaption(caption) {
+    : QComboBox(parent), emptyCaption(std::move(caption)) {
     setObjectName(objectName);
     setInsertPolicy(NoInsert);
     TakeLineEdit();
@@ -90,7 +90,7 @@ void ChoiceBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
-    // The style gives the text its place again and again.
+    // The style places the text anew whenever the box changes.
     if (watched == lineEdit() && event->type() == QEvent::Resize) {
         PlaceText();
     }
@@ -98,7 +98,7 @@ bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ChoiceBox::PlaceText() {
-    // In a narrow box a name needs the room between frame and arrow more than a line between them.
+    // The style leaves a margin between text and arrow; a narrow box has no room for it.
     constexpr int ArrowWidth = 15;
     constexpr int NarrowBox = 70;
     if (width() < NarrowBox) {

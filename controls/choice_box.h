@@ -6,14 +6,14 @@
 namespace ksm {
 
 /// Only an entry taken from the list counts as a choice, the present one included. What is typed
-/// chooses nothing: when the keyboard leaves, the box shows its choice again. Up and Down open the
+/// chooses nothing: when the focus leaves, the box shows its choice again. Up and Down open the
 /// list, so that the keyboard too chooses one entry without passing over others.
 class ChoiceBox : public QComboBox {
     Q_OBJECT
 
 public:
     /// `caption` is what the box reads until something is chosen.
-    ChoiceBox(const QString& objectName, const QString& caption, const QStringList& entries,
+    ChoiceBox(const QString& objectName, QString caption, const QStringList& entries,
               QWidget* parent);
 
     /// Shows entry `index`, or the caption for -1; this is no choice.
@@ -35,6 +35,7 @@ protected:
 
 private:
     void TakeLineEdit();
+    /// Gives the text of a narrow box the room up to the arrow.
     void PlaceText();
     void FitText(const QString& text);
 

@@ -11,7 +11,7 @@ namespace ksm {
 /// fits, from the font's own down to `smallest` pixels. The smallest where none fits.
 QFont FittingFont(const QFont& font, int smallest, const std::function<bool(const QFont&)>& fits);
 
-/// The same for a text in one line, `room` pixels wide.
+/// Finds the font for a text in one line, `room` pixels wide.
 QFont FittingFont(const QFont& font, int smallest, const QString& text, double room);
 
 } // namespace ksm

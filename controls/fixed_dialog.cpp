@@ -34,7 +34,7 @@ void FixedDialog::keyPressEvent(QKeyEvent* event) {
 
 void FixedDialog::hideEvent(QHideEvent* event) {
     QDialog::hideEvent(event);
-    // Not every window manager gives the keyboard back.
+    // Not every window manager gives the focus back.
     if (isModal() && parentWidget()->isVisible()) {
         parentWidget()->activateWindow();
     }

@@ -7,7 +7,7 @@
 
 namespace ksm {
 
-/// The platform's scroll bar in a frame, which turns blue while the keyboard moves the bar. Narrow
+/// The platform's scroll bar in a frame, which turns blue while the bar has the focus. Narrow
 /// bars (from 10 pixels) keep both arrows.
 class FramedBar : public QScrollBar {
     Q_OBJECT

@@ -59,11 +59,11 @@ const QString& Comic() {
 
 } // namespace
 
-void ApplyLook(QApplication& application) {
+void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create("fusion"));
     QApplication::setPalette(LightPalette());
     QApplication::setFont(PlainFont());
-    application.setEffectEnabled(Qt::UI_AnimateMenu, false);
+    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
 }
 
 QColor ButtonFace() {

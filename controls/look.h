@@ -4,12 +4,10 @@
 #include <QColor>
 #include <QFont>
 
-class QApplication;
-
 namespace ksm {
 
-/// Gives the program its light Fusion look, whatever theme the desktop has.
-void ApplyLook(QApplication& application);
+/// Gives the application its light Fusion look, whatever theme the desktop has.
+void ApplyLook();
 
 /// The background of windows, and of labels that have no colour of their own.
 QColor ButtonFace();

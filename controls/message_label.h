@@ -13,7 +13,7 @@ class MessageLabel : public QWidget {
 public:
     MessageLabel(const QString& objectName, const QRect& place, QWidget* parent);
 
-    void SetCaption(const QString& caption);
+    void SetCaption(const QString& text);
     const QString& Caption() const { return caption; }
 
     /// The largest face in which the caption fits the label.

@@ -15,18 +15,18 @@ namespace ksm {
 namespace {
 
 struct Caption {
-    const char* Name;
-    int Top;
-    const char* Text;
+    const char* Name = "";
+    int Top = 0;
+    const char* Text = "";
 };
 
-constexpr Caption Captions[] = {
+constexpr std::array<Caption, 5> Captions{{
     {"Label3", 37, "A game aid for two to ten players around one board."},
     {"Label4", 53, "Written by the Korvane Astrell Manager developers."},
     {"Label5", 69, "Free software under the MIT licence."},
     {"Label6", 128, "Official Korvane Astrell Homepage:"},
     {"Label7", 195, "UNofficial Korvane Astrell Site:"},
-};
+}};
 
 constexpr auto MoreAddress = "https://manager.korvane-astrell.example/";
 constexpr auto OfficialAddress = "https://www.korvane-astrell.example/";
@@ -77,8 +77,8 @@ QLineEdit* MakeAddress(const char* name, const char* meaning, int top, const cha
     return box;
 }
 
-/// Takes back whatever changed an address, so that nothing is left to undo either. The addresses can
-/// be selected and copied.
+/// Takes back whatever changed an address, so that nothing is left to undo either. The addresses
+/// can be selected and copied.
 void Restore(QLineEdit* box, const char* address) {
     if (box->text() != address) {
         box->setText(address);

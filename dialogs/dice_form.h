@@ -22,9 +22,9 @@ private:
     void Scroll_Change();
     void Command1_Click();
 
-    std::array<CaptionLabel*, MaxDice> Label1;
-    CaptionLabel* Coun;
-    SpinBar* Scroll;
+    std::array<CaptionLabel*, MaxDice> Label1{};
+    CaptionLabel* Coun = nullptr;
+    SpinBar* Scroll = nullptr;
     int dice = 1; ///< as many as are rolled
 };
 

@@ -88,8 +88,9 @@ void GameFileForm::BuildControls() {
 }
 
 void GameFileForm::Confirm() {
-    if (!FileNam->text().endsWith(Extension))
+    if (!FileNam->text().endsWith(Extension)) {
         FileNam->setText(FileNam->text() + Extension);
+    }
     const QString problem = UseFile(FileNam->text());
     if (problem.isEmpty()) {
         accept();
@@ -107,8 +108,9 @@ bool GameFileForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GameFileForm::File1_Click() {
-    if (const QListWidgetItem* item = File1->currentItem())
+    if (const QListWidgetItem* item = File1->currentItem()) {
         FileNam->setText(item->text());
+    }
 }
 
 void GameFileForm::File1_DblClick() {

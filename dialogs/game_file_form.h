@@ -12,12 +12,12 @@ namespace ksm {
 
 /// Wherein the two dialogs differ; places in pixels of the client area.
 struct GameFileDesign {
-    const char* FormName;
-    const char* Title;
-    const char* ButtonName;
-    const char* ButtonCaption;
-    const char* FailureTitle;
-    const char* FailureText;
+    const char* FormName = "";
+    const char* Title = "";
+    const char* ButtonName = "";
+    const char* ButtonCaption = "";
+    const char* FailureTitle = "";
+    const char* FailureText = "";
     QRect List;
     QRect Label;
     QRect Box;

@@ -30,8 +30,7 @@ void MoveTo(int left, std::initializer_list<QWidget*> controls) {
 
 } // namespace
 
-PlayerColumn::PlayerColumn(Game& shown, int number, const QStringList& races,
-                           QWidget* mainWindow)
+PlayerColumn::PlayerColumn(Game& shown, int number, const QStringList& races, QWidget* mainWindow)
     : QObject(mainWindow), game(shown), player(number), window(mainWindow) {
     MakeNames(races);
     MakeFigures();

@@ -7,7 +7,7 @@ namespace ksm {
 namespace {
 
 struct RowHeading {
-    const char* Caption;
+    const char* Caption = "";
     QRect Place;
 };
 

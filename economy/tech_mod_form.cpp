@@ -11,9 +11,9 @@ namespace ksm {
 namespace {
 
 struct ColourColumn {
-    const char* Name;
-    int LabelLeft; // twips, as all places here
-    int BarLeft;
+    const char* Name = "";
+    int LabelLeft = 0; ///< twips, as all places here
+    int BarLeft = 0;
     ColourPair Colours;
 };
 

@@ -26,8 +26,8 @@ signals:
 private:
     void VScroll1_Change(int index);
 
-    std::array<CaptionLabel*, 4> TechModLabel;
-    std::array<FramedBar*, 4> VScroll1;
+    std::array<CaptionLabel*, 4> TechModLabel{};
+    std::array<FramedBar*, 4> VScroll1{};
 };
 
 } // namespace ksm

@@ -36,8 +36,7 @@ void TurnOrder(Game& game) {
                   .Name = record.Name,
                   .Resources = record.Resources,
                   .Influence = record.Influence,
-                  .Italic =
-                      record.Race == Race::Dravik && TradePartners(game, player).none()};
+                  .Italic = record.Race == Race::Dravik && TradePartners(game, player).none()};
     }
 }
 

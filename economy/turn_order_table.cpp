@@ -12,7 +12,7 @@ constexpr QRect Panel{0, 0, 160, 180};
 constexpr int RowHeight = 17;
 
 struct Heading {
-    const char* Caption;
+    const char* Caption = "";
     QRect Place;
     Qt::Alignment Alignment;
 };

@@ -74,8 +74,8 @@ void ComputeCosts(const Game& game, PlayerRecord& player) {
 
 void ComputePlayer(Game& game, int number) {
     PlayerRecord& player = game.Player(number);
-    player.Influence += EnviroCompBonus(game, number) + OrrunBonus(game, number) +
-                        AltheranBonus(game, number);
+    player.Influence +=
+        EnviroCompBonus(game, number) + OrrunBonus(game, number) + AltheranBonus(game, number);
     if (game.Laws.LabourUnion) {
         std::swap(player.Resources, player.Influence);
         player.PlanetResources = player.Resources;

@@ -9,9 +9,9 @@ namespace {
 using namespace colour;
 
 struct DesignLabels {
-    const char* NameCaption;
+    const char* NameCaption = "";
     ColourPair NameColours;
-    const char* ShortName;
+    const char* ShortName = "";
     ColourPair TradeColours;
 };
 

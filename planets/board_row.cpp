@@ -85,8 +85,7 @@ void BoardRow::FitFigures() {
     constexpr int Room = FigureRight - FigureLeft;
     // Figures are never cut: those of many digits reach over the end of a long name.
     const QString figures = InvasionResInf->Caption();
-    const QFont fitting =
-        FittingFont(InvasionResInf->font(), SmallText - 2, figures, Room);
+    const QFont fitting = FittingFont(InvasionResInf->font(), SmallText - 2, figures, Room);
     const int place = std::max(Room, qCeil(QFontMetricsF(fitting).horizontalAdvance(figures)));
     InvasionResInf->setGeometry(FigureRight - place, InvasionResInf->y(), place, RowPitch);
 }

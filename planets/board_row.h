@@ -14,8 +14,8 @@ public:
 
     PlanetLabel& Name() { return *InvasionPlanet; }
 
-    /// Shows a planet; `tag` is its slot in the planet table.
-    void Show(int tag, const PlanetRecord& planet);
+    /// Shows the planet of this slot of the planet table.
+    void Show(int slot, const PlanetRecord& planet);
     void ShowEmpty();
     /// The slot of the planet shown, or `NoPlanet`.
     int Tag() const { return tag; }

@@ -40,7 +40,8 @@ double BeyondDoubles(std::string_view number) {
 // `text` is in lower case, with E for every exponent.
 Reading ReadDecimal(std::string_view text) {
     // A second sign, and words such as "inf", begin no number.
-    if (text.empty() || std::string_view(".0123456789").find(text.front()) == text.npos) {
+    if (text.empty() ||
+        std::string_view(".0123456789").find(text.front()) == std::string_view::npos) {
         return {};
     }
     double value = 0;

@@ -47,7 +47,8 @@ void PlanetBoard::MakeOwners() {
         label->SetAlignment(Qt::AlignCenter);
         label->setFont(font);
         label->MakeClickable();
-        connect(label, &CaptionLabel::Clicked, this, [this, owner] { InvasionPlayer_Click(owner); });
+        connect(label, &CaptionLabel::Clicked, this,
+                [this, owner] { InvasionPlayer_Click(owner); });
         InvasionPlayer[owner] = label;
     };
     make(AllPlanets, 1, BoldFont());

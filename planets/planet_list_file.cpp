@@ -32,8 +32,9 @@ std::string_view TakeLine(std::string_view& text) {
     const std::size_t end = text.find('\r');
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(text.size(), line.size() + 1));
-    if (end != std::string_view::npos && text.starts_with('\n'))
+    if (end != std::string_view::npos && text.starts_with('\n')) {
         text.remove_prefix(1);
+    }
     return line;
 }
 
@@ -47,15 +48,19 @@ std::string_view TakeField(std::string_view& line) {
 Specialty SpecialtyOf(std::string_view field) {
     std::string word(field);
     for (char& c : word) {
-        if (c >= 'A' && c <= 'Z')
+        if (c >= 'A' && c <= 'Z') {
             c = static_cast<char>(c - 'A' + 'a');
+        }
     }
-    if (word == "b" || word == "blue")
+    if (word == "b" || word == "blue") {
         return Specialty::Blue;
-    if (word == "g" || word == "green")
+    }
+    if (word == "g" || word == "green") {
         return Specialty::Green;
-    if (word == "r" || word == "red")
+    }
+    if (word == "r" || word == "red") {
         return Specialty::Red;
+    }
     return Specialty::None;
 }
 
@@ -65,17 +70,20 @@ public:
 
     void Read(std::string_view line) {
         ++lineNumber;
-        if (line.starts_with('\''))
+        if (line.starts_with('\'')) {
             return;
+        }
         PlanetRecord planet;
         planet.Name = TakeField(line);
         planet.Resources = Figure("resources", TakeField(line));
         planet.Influence = Figure("influence", TakeField(line));
         planet.Specialty = SpecialtyOf(FieldBeforeComma(line));
-        if (++planets == MaxPlanets + 1)
+        if (++planets == MaxPlanets + 1) {
             Report("planet " + std::to_string(planets), PlanetRange());
-        if (planets <= MaxPlanets)
+        }
+        if (planets <= MaxPlanets) {
             result.Planets.push_back(std::move(planet));
+        }
     }
 
 private:
@@ -100,11 +108,13 @@ private:
 
 std::string Sentence(const PlanetListProblem& problem) {
     std::string text;
-    if (problem.Line > 0)
+    if (problem.Line > 0) {
         text += "Line " + std::to_string(problem.Line) + ": ";
+    }
     text += problem.What;
-    if (!problem.Allowed.empty())
+    if (!problem.Allowed.empty()) {
         text += " (allowed: " + problem.Allowed + ")";
+    }
     return text;
 }
 
@@ -124,8 +134,9 @@ PlanetListResult ReadPlanetList(std::string_view bytes) {
     const std::string text = DecodeText(bytes);
     std::string_view rest = text;
     LineReader reader(result);
-    while (!rest.empty())
+    while (!rest.empty()) {
         reader.Read(TakeLine(rest));
+    }
     if (result.Planets.empty() && result.Problems.empty()) {
         const bool lineFeedsOnly =
             text.find('\n') != std::string::npos && text.find('\r') == std::string::npos;

@@ -34,7 +34,7 @@ std::string_view TextAfterComma(std::string_view text);
 
 /// Reads the bytes of a planet list and collects every problem in them.
 PlanetListResult ReadPlanetList(std::string_view bytes);
-/// The same for a file; one that is missing or cannot be read is a problem too.
+/// Reads the planet list in a file; a file that is missing or cannot be read is a problem too.
 PlanetListResult ReadPlanetListFile(const std::filesystem::path& path);
 
 /// Puts 1..101 planets into the game, all of them unowned, and fills the pool's list and count.

@@ -28,7 +28,8 @@ std::string Convert(iconv_t conversion, std::string_view& bytes) {
     std::string text;
     std::array<char, 4096> buffer{};
     while (!bytes.empty()) {
-        char* in = const_cast<char*>(bytes.data()); // iconv only reads there
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): iconv only reads there.
+        char* in = const_cast<char*>(bytes.data());
         std::size_t inLeft = bytes.size();
         char* out = buffer.data();
         std::size_t outLeft = buffer.size();

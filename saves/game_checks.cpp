@@ -68,8 +68,8 @@ const char* CheckTrade(const GameState& state) {
 
 const char* CheckView(const GameState& state) {
     const GameView& view = state.View;
-    const bool hasOwner = view.BoardPlayer == AllPlanets ||
-                          (state.Started && view.BoardPlayer <= state.NumPlayers);
+    const bool hasOwner =
+        view.BoardPlayer == AllPlanets || (state.Started && view.BoardPlayer <= state.NumPlayers);
     if (!hasOwner) {
         return "BoardPlayer is no owner that the board can show.";
     }

@@ -54,9 +54,8 @@ ReadGameResult ReadGame(const QByteArray& bytes) {
     int version = 0;
     GameState state;
     members.Number("Version", version, GameFormatVersion, GameFormatVersion);
-    members.Object("Game", state, [](JsonReader& game, GameState& read) {
-        GameMembers::Describe(game, read);
-    });
+    members.Object("Game", state,
+                   [](JsonReader& game, GameState& read) { GameMembers::Describe(game, read); });
     members.Finish();
     if (!problem.isEmpty()) {
         return Damaged(problem);

@@ -79,8 +79,8 @@ QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
     return {};
 }
 
-int JsonReader::CheckNumber(const QJsonValue& value, const QString& where, int otherwise,
-                            int least, int most) {
+int JsonReader::CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
+                            int most) {
     const qint64 number = value.toInteger(qint64{least} - 1);
     if (number >= least && number <= most) {
         return static_cast<int>(number);

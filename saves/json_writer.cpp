@@ -7,7 +7,8 @@ void JsonWriter::Text(const char* name, const std::string& utf8) {
 }
 
 void JsonWriter::Hue(const char* name, Colour colour) {
-    Put(name, QString::asprintf("#%02X%02X%02X", colour.Red, colour.Green, colour.Blue));
+    const uint number = uint{colour.Red} << 16 | uint{colour.Green} << 8 | colour.Blue;
+    Put(name, QString("#%1").arg(number, 6, 16, QChar('0')).toUpper());
 }
 
 void JsonWriter::Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int) {

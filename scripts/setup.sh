@@ -10,8 +10,9 @@ SourceFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
     FontPackages=(fontconfig fonts-liberation fonts-comic-neue)
     BuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev)
     DisplayPackages=(xvfb openbox xdotool imagemagick)
+    MeasurePackages=(libbenchmark-dev)
     FuzzPackages=(clang libclang-rt-14-dev)
-    LintPackages=(clang-format clang-tidy shellcheck)
+    LintPackages=(clang-format clang-tidy shellcheck flake8)
     PackagePackages=(dpkg-dev file gzip lintian desktop-file-utils appstream man-db groff)
 }
 
@@ -32,9 +33,15 @@ Install() {
         apt-get --quiet=2 --yes --no-install-recommends -o Dpkg::Use-Pty=0 install "${missing[@]}" >/dev/null
 }
 
-# Build PRESET [TARGET...]: configures and builds one of the CMake presets.
-Build() (
+# Configure PRESET: configures one of the CMake presets.
+Configure() (
     cd "$SourceFolder"
     cmake --preset "$1" --log-level=NOTICE
+)
+
+# Build PRESET [TARGET...]: configures and builds one of the CMake presets.
+Build() (
+    Configure "$1"
+    cd "$SourceFolder"
     cmake --build --preset "$1" ${2:+--target "${@:2}"}
 )

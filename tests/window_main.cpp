@@ -10,6 +10,6 @@ int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    ksm::ApplyLook(application);
+    ksm::ApplyLook();
     return RUN_ALL_TESTS();
 }

@@ -21,8 +21,7 @@ bool IsIndependencePair(const Game& game, int one, int other) {
 }
 
 // The player clicked last is named first.
-std::string Message(const Game& game, int last, const char* joint, int first,
-                    const char* ending) {
+std::string Message(const Game& game, int last, const char* joint, int first, const char* ending) {
     return Name(game, last) + joint + Name(game, first) + ending;
 }
 

@@ -36,8 +36,8 @@ TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(sho
 
 void TradePanel::MakeLabels() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        auto* label = new CaptionLabel(ElementName("TradePlayer", player),
-                                       {QPoint(), LabelSize}, this);
+        auto* label =
+            new CaptionLabel(ElementName("TradePlayer", player), {QPoint(), LabelSize}, this);
         label->SetAlignment(Qt::AlignCenter);
         label->MakeClickable();
         connect(label, &CaptionLabel::Clicked, this, [this, player] { TradePlayer_Click(player); });

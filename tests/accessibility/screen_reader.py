@@ -6,8 +6,8 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-import pyatspi
-from gi.repository import Gio, GLib
+import pyatspi  # noqa: E402
+from gi.repository import Gio, GLib  # noqa: E402
 
 ROLES_WITH_NAMES = {
     pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LABEL, pyatspi.ROLE_LIST,

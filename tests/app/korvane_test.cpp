@@ -17,7 +17,8 @@ TEST(MainWindow, StartsWithTheDesignCaptionsAndWithoutComputingValues) {
     EXPECT_EQ(game.window.height(), 446 + game.window.menuBar()->height());
     EXPECT_EQ(game.state, GameOfTwentyPlanets());
     EXPECT_EQ(game.Caption("PolPlay", 1), "Player") << "the players have not been ranked yet";
-    EXPECT_EQ(game.Find<MessageLabel>("TInfo")->Caption(), "\r\nPress Add to make a Trade Agreement");
+    EXPECT_EQ(game.Find<MessageLabel>("TInfo")->Caption(),
+              "\r\nPress Add to make a Trade Agreement");
     for (int player = 1; player <= MaxPlayers; ++player) {
         EXPECT_EQ(game.Caption("SpaceDocks", player), "1");
         EXPECT_EQ(game.Find<QComboBox>("Race", player)->currentText(), "Race");
@@ -106,8 +107,9 @@ TEST(Setup, ThePlayerCountSnapsBackIntoItsRange) {
 TEST(Setup, ThePanelCoversSummaryAndBoardUntilStart) {
     GameWindow game;
     QWidget* client = game.window.centralWidget();
-    for (const QPoint place : {QPoint(20, 100), QPoint(200, 100), QPoint(330, 175)})
+    for (const QPoint place : {QPoint(20, 100), QPoint(200, 100), QPoint(330, 175)}) {
         EXPECT_EQ(client->childAt(place), game.Find<QWidget>("GameSetupPic"));
+    }
     game.Start();
     EXPECT_EQ(client->childAt(200, 7), game.Find("InvasionPlayer", AllPlanets));
     for (int player = 1; player <= 6; ++player) {

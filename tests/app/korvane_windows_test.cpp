@@ -1,13 +1,13 @@
 // The windows that the menus open, and what they do to the main window.
 
 #include "dialogs/dice_form.h"
-#include "saves/game_file.h"
 #include "dialogs/load_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/tech_form.h"
 #include "economy/value_update.h"
-#include "tests/saves/sample_game.h"
+#include "saves/game_file.h"
 #include "tests/game_window.h"
+#include "tests/saves/sample_game.h"
 
 #include <QCheckBox>
 #include <QPlainTextEdit>
@@ -17,8 +17,9 @@ namespace {
 
 TEST(Windows, OneInstanceIsShownAgainAndClosesWithTheMainWindow) {
     GameWindow game;
-    for (const char* item : {"Notes", "Dice", "Notes", "Dice"})
+    for (const char* item : {"Notes", "Dice", "Notes", "Dice"}) {
         game.Choose(item);
+    }
     EXPECT_EQ(game.window.findChildren<NoteForm*>().size(), 1);
     EXPECT_EQ(game.window.findChildren<DiceForm*>().size(), 1);
     const QPointer notes(game.Find<QWidget>("NoteForm"));

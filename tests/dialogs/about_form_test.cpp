@@ -14,16 +14,18 @@ TEST(AboutForm, StandsInTheMiddleOfItsOwnerWithAddressesToCopyUntilOk) {
     const QPointer form(new AboutForm(&owner));
     form->show();
     EXPECT_EQ(form->frameGeometry().center(), owner.frameGeometry().center());
-    for (const CaptionLabel* label : form->findChildren<CaptionLabel*>())
+    for (const CaptionLabel* label : form->findChildren<CaptionLabel*>()) {
         EXPECT_EQ(label->ShownText(), label->Caption());
+    }
     for (const char* name : {"Text1", "Text2", "Text3"}) {
         auto& box = *form->findChild<QLineEdit*>(name);
         const QString address = box.text();
         EXPECT_TRUE(address.startsWith("https://") && address.endsWith(".example/")) << name;
         QGuiApplication::clipboard()->setText("elsewhere");
         QTest::keyClicks(&box, "x");
-        for (const auto key : {Qt::Key_V, Qt::Key_A, Qt::Key_X, Qt::Key_C})
+        for (const auto key : {Qt::Key_V, Qt::Key_A, Qt::Key_X, Qt::Key_C}) {
             QTest::keyClick(&box, key, Qt::ControlModifier);
+        }
         EXPECT_EQ(box.text(), address) << "can be copied, not changed";
         EXPECT_EQ(QGuiApplication::clipboard()->text(), address);
     }

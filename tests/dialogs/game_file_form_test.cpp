@@ -1,6 +1,6 @@
-#include "saves/game_file.h"
 #include "dialogs/load_form.h"
 #include "dialogs/save_form.h"
+#include "saves/game_file.h"
 #include "tests/saves/sample_game.h"
 #include "tests/window_test.h"
 

@@ -44,8 +44,9 @@ bool OnDiamond(const ChartMark& mark, Point p) {
 class Picture {
 public:
     explicit Picture(const TechChart& shown) : chart(shown) {
-        for (const auto* array : {&chart.Line1, &chart.Line4, &chart.Line5, &chart.Line6})
+        for (const auto* array : {&chart.Line1, &chart.Line4, &chart.Line5, &chart.Line6}) {
             Lines.insert(Lines.end(), array->begin(), array->end());
+        }
     }
 
     /// What the line comes from: a box as the set of its index, a diamond as the set of all that it
@@ -56,12 +57,14 @@ public:
             for (const Point end : {joined->From, joined->To}) {
                 for (std::size_t i = 0; i < chart.Label1.size(); ++i) {
                     const Rect box = Bounds(chart.Label1[i]);
-                    if (box.HasOnEdge(end) && end.Y > box.Top && !HasMark(end))
+                    if (box.HasOnEdge(end) && end.Y > box.Top && !HasMark(end)) {
                         origins.insert({static_cast<int>(i)});
+                    }
                 }
                 for (const ChartMark& mark : chart.Marks) {
-                    if (OnDiamond(mark, end) && end.Y > mark.At.Y)
+                    if (OnDiamond(mark, end) && end.Y > mark.At.Y) {
                         origins.insert(NeededBy(mark));
+                    }
                 }
             }
         }
@@ -72,8 +75,9 @@ public:
         std::vector<const Connector*> inputs;
         for (const Connector& line : Lines) {
             for (const Point end : {line.From, line.To}) {
-                if (OnDiamond(diamond, end) && end.Y <= diamond.At.Y)
+                if (OnDiamond(diamond, end) && end.Y <= diamond.At.Y) {
                     inputs.push_back(&line);
+                }
             }
         }
         return inputs;
@@ -102,8 +106,9 @@ private:
         std::vector<const Connector*> joined{&line};
         for (std::size_t i = 0; i < joined.size(); ++i) {
             for (const Connector& other : Lines) {
-                if (Touch(*joined[i], other) && std::ranges::count(joined, &other) == 0)
+                if (Touch(*joined[i], other) && std::ranges::count(joined, &other) == 0) {
                     joined.push_back(&other);
+                }
             }
         }
         return joined;
@@ -111,21 +116,21 @@ private:
 
     static std::set<int> Merged(const std::set<std::set<int>>& origins) {
         std::set<int> all;
-        for (const std::set<int>& origin : origins)
+        for (const std::set<int>& origin : origins) {
             all.insert(origin.begin(), origin.end());
+        }
         return all;
     }
 
     std::set<int> NeededBy(const ChartMark& diamond) const {
         std::set<int> needed;
-        for (const Connector* input : Into(diamond))
+        for (const Connector* input : Into(diamond)) {
             needed.merge(Merged(Origins(*input)));
+        }
         return needed;
     }
 
-    bool HasMark(Point at) const {
-        return std::ranges::count(chart.Marks, at, &ChartMark::At) > 0;
-    }
+    bool HasMark(Point at) const { return std::ranges::count(chart.Marks, at, &ChartMark::At) > 0; }
 
     const TechChart& chart;
 };
@@ -150,11 +155,13 @@ TEST_P(TechCharts, HaveTheirNumbersOfEverything) {
                      std::ssize(chart.Line6), std::ssize(StrokePairs(chart))}),
         GetParam().Lines);
     std::vector<std::ptrdiff_t> marks, fields;
-    for (const auto shape : {MarkShape::ArrowDown, MarkShape::ArrowRight, MarkShape::Diamond})
+    for (const auto shape : {MarkShape::ArrowDown, MarkShape::ArrowRight, MarkShape::Diamond}) {
         marks.push_back(std::ranges::count(chart.Marks, shape, &ChartMark::Shape));
+    }
     using enum TechField;
-    for (const auto field : {Yellow, Green, Blue, Red})
+    for (const auto field : {Yellow, Green, Blue, Red}) {
         fields.push_back(std::ranges::count(chart.Label1, field, &Technology::Field));
+    }
     EXPECT_EQ(marks, GetParam().Marks);
     EXPECT_EQ(fields, GetParam().Fields);
     EXPECT_EQ(std::ranges::count(chart.Label1, NarrowWidth, &Technology::Width),
@@ -171,8 +178,9 @@ TEST_P(TechCharts, ShowThePrerequisitesOfTheirTables) {
             EXPECT_LT(chart.Label1.at(static_cast<std::size_t>(source)).Place.Y, technology.Place.Y)
                 << "earlier technologies stand higher";
         }
-        if (technology.Rule == TechRule::AllOf)
+        if (technology.Rule == TechRule::AllOf) {
             expected = {all};
+        }
         EXPECT_EQ(picture.Alternatives(Bounds(technology)), expected);
     }
 }
@@ -188,7 +196,9 @@ TEST_P(TechCharts, LeadEveryLineFromOneOriginAndThroughDiamondsOnlyWhereLinesJoi
             ASSERT_EQ(origins.begin()->size(), 1U);
             const auto source = static_cast<std::size_t>(*origins.begin()->begin());
             const auto field = static_cast<std::size_t>(chart.Label1[source].Field);
-            EXPECT_EQ(line.Ink, (std::array{colour::Orange, colour::DarkGreen, colour::Blue, colour::Red}.at(field)));
+            EXPECT_EQ(line.Ink,
+                      (std::array{colour::Orange, colour::DarkGreen, colour::Blue, colour::Red}.at(
+                          field)));
         }
     }
     for (const ChartMark& mark : chart.Marks) {

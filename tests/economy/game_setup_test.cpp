@@ -7,16 +7,18 @@ namespace {
 
 GameState GameWithPlanets(std::initializer_list<const char*> names) {
     GameState state;
-    for (const char* name : names)
+    for (const char* name : names) {
         state.Planet(state.NumPlanets++).Name = name;
+    }
     return state;
 }
 
 std::vector<std::string> PlanetsOf(const GameState& state, int player) {
     std::vector<std::string> names;
     for (int planet = 0; planet < state.NumPlanets; ++planet) {
-        if (state.Planet(planet).Owner == player)
+        if (state.Planet(planet).Owner == player) {
             names.push_back(state.Planet(planet).Name);
+        }
     }
     return names;
 }

@@ -10,8 +10,9 @@ namespace {
 GameState BoardGame(int planets) {
     GameState state;
     state.NumPlanets = planets;
-    for (int planet = 0; planet < planets; planet += 2)
+    for (int planet = 0; planet < planets; planet += 2) {
         state.Planet(planet).Owner = 3;
+    }
     UpdateValues(state);
     return state;
 }

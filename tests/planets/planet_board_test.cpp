@@ -13,8 +13,9 @@ const QColor Face(239, 239, 239);
 struct Board : GameWindow {
     Board() {
         Start();
-        for (int planet = 4; planet < 20; ++planet)
+        for (int planet = 4; planet < 20; ++planet) {
             state.Planet(planet).Owner = 2;
+        }
         window.UpdateValues();
     }
 
@@ -27,8 +28,9 @@ struct Board : GameWindow {
     /// The colours of the pool, players 1 to 6 and "All planets".
     std::string Owners() const {
         std::string letters;
-        for (const int owner : {0, 1, 2, 3, 4, 5, 6, AllPlanets})
+        for (const int owner : {0, 1, 2, 3, 4, 5, 6, AllPlanets}) {
             letters += Letter(Back("InvasionPlayer", owner));
+        }
         return letters;
     }
     char RowColour(int row) const { return Letter(Back("InvasionPlanet", row)); }
@@ -115,7 +117,7 @@ TEST(PlanetBoard, TheOwnerUnderTheDragIsRedAndTheListedOneStaysYellow) {
 TEST(PlanetBoard, RefusedDropsAndDropsElsewhereLeaveTheColours) {
     Board board;
     board.Click("InvasionPlayer", 2);
-    const Game before = board.state;
+    const auto before = static_cast<const Game&>(board.state);
     for (const char* target :
          {"InvasionPlayer(2)", "InvasionPlayer(20)", "InvasionPlanet(5)", "AddTAbutton"}) {
         board.Press(1);

@@ -59,8 +59,9 @@ TEST(PlanetList, ReadsALineAs) {
 TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
     std::string names;
     for (const PlanetRecord& planet :
-         ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n").Planets)
+         ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n").Planets) {
         names += "[" + planet.Name + "]";
+    }
     EXPECT_EQ(names, "[A][][B][][C\n]");
 }
 
@@ -79,15 +80,17 @@ TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLine) {
 
 TEST(PlanetList, HoldsOneToOneHundredAndOnePlanets) {
     std::string most;
-    for (int i = 0; i < MaxPlanets; ++i)
+    for (int i = 0; i < MaxPlanets; ++i) {
         most += "P\r\n";
+    }
     EXPECT_TRUE(ReadPlanetList(most).Problems.empty());
     const auto problems = ReadPlanetList(most + "'c\rQ\rR").Problems;
     ASSERT_EQ(problems.size(), 1U) << "reported once, not for every line too many";
     EXPECT_EQ(problems[0], (PlanetListProblem{103, "planet 102", "1 to 101 planets"}));
 
-    for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'line feeds\nA,1\n"})
+    for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'line feeds\nA,1\n"}) {
         EXPECT_EQ(ReadPlanetList(text).Problems.size(), 1U) << text;
+    }
 }
 
 TEST(PlanetList, AFileThatCannotBeReadIsAProblem) {
@@ -130,8 +133,9 @@ TEST(PlanetList, TheDeliveredListIsFitForPlay) {
     };
     for (const char* home :
          {"Quessin", "Belthune", "Miradel", "Ostrane", "Ith", "Veran", "Ossa Prime", "Calix Terra",
-          "Sennavor", "Gor'Tash", "Pellis Tau", "Pellis Ren"})
+          "Sennavor", "Gor'Tash", "Pellis Tau", "Pellis Ren"}) {
         EXPECT_EQ(named(home), 1) << home;
+    }
     for (const PlanetRecord& planet : list.Planets) {
         EXPECT_FALSE(planet.Name.empty()) << "an empty line is a planet";
         EXPECT_LE(std::max(planet.Resources, planet.Influence), 4) << planet.Name;

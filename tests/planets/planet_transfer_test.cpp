@@ -9,8 +9,9 @@ namespace {
 GameState GameOfTwentyPlanets() {
     GameState state;
     state.NumPlanets = 20;
-    for (std::uint8_t planet = 0; planet < 20; ++planet)
+    for (std::uint8_t planet = 0; planet < 20; ++planet) {
         state.Player(NeutralOwner).PlanetList[planet] = planet;
+    }
     return state;
 }
 
@@ -40,8 +41,9 @@ TEST(PlanetTransfer, FromAllPlanetsTheFormerPlayerKeepsTheListEntry) {
     const std::vector<int> pool = List(state, NeutralOwner);
     EXPECT_TRUE(TransferPlanet(state, 5, 6));
     EXPECT_EQ(state.Planet(5).Owner, 6);
-    for (const int owner : {4, 6})
+    for (const int owner : {4, 6}) {
         EXPECT_EQ(List(state, owner), std::vector{5}) << owner;
+    }
     EXPECT_EQ(List(state, NeutralOwner), pool);
 }
 
@@ -65,8 +67,9 @@ TEST(PlanetTransfer, SomeDropsAreRefused) {
     state.View.BoardPlayer = 2;
     for (const auto& [owner, planet, accepted] :
          {std::tuple{3, 7, true}, std::tuple{NeutralOwner, 0, true}, std::tuple{2, 7, false},
-          std::tuple{AllPlanets, 7, false}, std::tuple{3, int{NoPlanet}, false}})
+          std::tuple{AllPlanets, 7, false}, std::tuple{3, int{NoPlanet}, false}}) {
         EXPECT_EQ(AcceptsDrop(state, owner, planet), accepted) << owner << ", " << planet;
+    }
 }
 
 } // namespace

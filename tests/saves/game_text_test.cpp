@@ -67,8 +67,8 @@ const std::array<const char*, 3> Damages[]{
     {"\"Named\": true", "\"Named\": false", "Players[2].Name belongs to a player who has no name"},
     {"\"PellamToolsEnabled\": true", "\"PellamToolsEnabled\": false",
      "PellamToolsEnabled contradicts"},
-    {"\"Micro\": true,\n                \"MicroEnabled\": true", "\"Micro\": true,\"MicroEnabled\": false",
-     "Players[4].MicroEnabled contradicts"},
+    {"\"Micro\": true,\n                \"MicroEnabled\": true",
+     "\"Micro\": true,\"MicroEnabled\": false", "Players[4].MicroEnabled contradicts"},
     {"\"TradeRing\": 4", "\"TradeRing\": 5", "Players[0].TradeRing is one without"},
     {"\"TradeRing\": 9", "\"TradeRing\": 4", "Players[5].TradeRing is one without"},
     {"\"Width\": 3", "\"Width\": 2", "TradeStrokes does not hold one line for each agreement"},
@@ -89,10 +89,12 @@ TEST(GameText, RefusesWhateverIsDamaged) {
         EXPECT_TRUE(result.Problem.contains(problem))
             << damaged << ": " << result.Problem.toStdString();
     }
-    for (const char* other : {"", "PK\x03\x04", "{}", "[]", "7", "null", "\"Format\""})
+    for (const char* other : {"", "PK\x03\x04", "{}", "[]", "7", "null", "\"Format\""}) {
         EXPECT_FALSE(ReadGame(other).Problem.isEmpty()) << other;
-    for (qsizetype size = 0; size < whole.size() - 1; ++size)
+    }
+    for (qsizetype size = 0; size < whole.size() - 1; ++size) {
         EXPECT_FALSE(ReadGame(whole.first(size)).Game) << "cut at " << size;
+    }
 }
 
 } // namespace

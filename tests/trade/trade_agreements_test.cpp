@@ -10,8 +10,9 @@ namespace {
 /// Ten players whose names are "P1" to "P10".
 GameState NamedPlayers() {
     GameState state;
-    for (int player = 1; player <= MaxPlayers; ++player)
+    for (int player = 1; player <= MaxPlayers; ++player) {
         state.Player(player).Name = std::string("P").append(std::to_string(player));
+    }
     return state;
 }
 
@@ -86,11 +87,13 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
         SCOPED_TRACE(testing::PrintToString(row.Clicks));
         GameState state = NamedPlayers();
         TradeOutcome last;
-        for (const int click : row.Clicks)
+        for (const int click : row.Clicks) {
             last = Do(state, click);
+        }
         TradeTable wanted{};
-        for (const auto& [maker, partner] : row.Agreements)
+        for (const auto& [maker, partner] : row.Agreements) {
             wanted.at(static_cast<std::size_t>(maker)).at(static_cast<std::size_t>(partner)) = -1;
+        }
         EXPECT_EQ(state.TradeInfo, row.Info);
         EXPECT_EQ(state.TradeMode, row.Mode);
         EXPECT_EQ(state.TradeAgreements, wanted);
@@ -99,11 +102,10 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
 }
 
 TEST(TradeLaws, TogglesReportAndReturnToWhatTheyWere) {
-    const std::tuple<TradeOutcome (*)(Game&), bool LawMarks::*, const char*, const char*>
-        laws[]{
-            {TFree_Click, &LawMarks::FreeTrade, "\r\n\r\nFREE TRADE!", "\r\n\r\nFree Trade ends."},
-            {TRestr_Click, &LawMarks::TradeRestrictions, "\r\nTRADE RESTRICTIONS!",
-             "\r\nTrade Restrictions dissolved."}};
+    const std::tuple<TradeOutcome (*)(Game&), bool LawMarks::*, const char*, const char*> laws[]{
+        {TFree_Click, &LawMarks::FreeTrade, "\r\n\r\nFREE TRADE!", "\r\n\r\nFree Trade ends."},
+        {TRestr_Click, &LawMarks::TradeRestrictions, "\r\nTRADE RESTRICTIONS!",
+         "\r\nTrade Restrictions dissolved."}};
     for (const auto& [click, mark, on, off] : laws) {
         GameState state;
         for (const bool inForce : {true, false}) {

@@ -1,5 +1,5 @@
-#include "tests/game_window.h"
 #include "controls/message_label.h"
+#include "tests/game_window.h"
 
 namespace ksm {
 namespace {
@@ -7,8 +7,9 @@ namespace {
 struct TradeGame : GameWindow {
     TradeGame() {
         Start();
-        for (int player = 1; player <= MaxPlayers; ++player)
+        for (int player = 1; player <= MaxPlayers; ++player) {
             state.Player(player).Name = std::string("P").append(std::to_string(player));
+        }
     }
 
     std::string Info() const { return Find<MessageLabel>("TInfo")->Caption().toStdString(); }
