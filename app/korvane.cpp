@@ -48,6 +48,11 @@ Korvane::Korvane(GameState& game)
     ShowGame();
 }
 
+// A control that loses the focus in going may still have a change to announce.
+Korvane::~Korvane() {
+    delete takeCentralWidget();
+}
+
 void Korvane::MakePanels() {
     // The order of the Tab key.
     setup = new SetupPanel(state, client);

@@ -23,6 +23,8 @@ class Korvane : public QMainWindow {
 public:
     /// Shows the game as it is.
     explicit Korvane(GameState& game);
+    ~Korvane() override;
+    Q_DISABLE_COPY_MOVE(Korvane)
 
     /// Shows the whole game. It only reads: the state stays as it is, nothing is announced, and the
     /// focus stays where it is unless its control is gone.

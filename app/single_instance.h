@@ -5,8 +5,8 @@
 
 namespace ksm {
 
-/// Locks a file of the user's for as long as it lives, which tells whether the program runs already.
-/// The lock of a program that crashed counts for nothing.
+/// Locks a file of the user's for as long as it lives, which tells whether the program runs
+/// already. The lock of a program that crashed counts for nothing.
 class SingleInstance {
 public:
     SingleInstance();

@@ -46,12 +46,16 @@ Holdings AddUpPlanets(const Game& game) {
     return holdings;
 }
 
+int CountPlanets(const Holding& holding) {
+    return std::reduce(holding.Planets.begin(), holding.Planets.end());
+}
+
 void TakeHolding(PlayerRecord& player, const Holding& holding, int pellamTools) {
     const auto resources = [&](Specialty specialty) {
         const auto place = static_cast<std::size_t>(specialty);
         return holding.Resources[place] + pellamTools * holding.Planets[place];
     };
-    player.PlanetCount = std::reduce(holding.Planets.begin(), holding.Planets.end());
+    player.PlanetCount = CountPlanets(holding);
     player.AltheranHomes = holding.AltheranHomes;
     player.Influence = player.PlanetInfluence = holding.Influence;
     player.RedDiscount = resources(Specialty::Red);
@@ -92,7 +96,7 @@ void UpdateValues(Game& game) {
     game.TradeCount = CountAgreements(game.TradeAgreements);
     const Holdings holdings = AddUpPlanets(game);
     // The pool's planets are counted, and bring nothing.
-    TakeHolding(game.Player(NeutralOwner), {.Planets = holdings[NeutralOwner].Planets}, 0);
+    game.Player(NeutralOwner).PlanetCount = CountPlanets(holdings[NeutralOwner]);
     for (int number = 1; number <= MaxPlayers; ++number) {
         TakeHolding(game.Player(number), holdings[static_cast<std::size_t>(number)],
                     PellamToolsBonus(game, number));
