@@ -26,11 +26,11 @@ constexpr QSize ClientSize{640, 446};
 
 } // namespace
 
-Korvane::Korvane(GameState& game)
+Korvane::Korvane(GameState& game, KeptGame* keeper)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                Qt::WindowCloseButtonHint),
-      state(game) {
+      state(game), history(game), kept(keeper) {
     setObjectName("Korvane");
     setWindowTitle(ProgramTitle);
     menu = new MainMenu(this);
@@ -44,6 +44,7 @@ Korvane::Korvane(GameState& game)
     ConnectPanels();
     ConnectMenu();
     ConnectTradeLaws();
+    ConnectSteps();
     CentreOnScreen();
     ShowGame();
 }
@@ -197,6 +198,7 @@ void Korvane::StartGameButton_Click() {
     ShowPhase();
     UpdateValues();
     TurnOrder();
+    history.Restart(state);
     emit Changed();
 }
 

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "model/history.h"
 
 #include <QMainWindow>
 
 namespace ksm {
 
+class KeptGame;
 class MainMenu;
 class PlanetBoard;
 class PlayerTable;
@@ -21,8 +23,8 @@ class Korvane : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Shows the game as it is.
-    explicit Korvane(GameState& game);
+    /// Shows the game as it is. Every change is handed to `keeper`, if there is one.
+    explicit Korvane(GameState& game, KeptGame* keeper = nullptr);
     ~Korvane() override;
     Q_DISABLE_COPY_MOVE(Korvane)
 
@@ -52,6 +54,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -60,6 +63,7 @@ private:
     void ConnectPanels();
     void ConnectMenu();
     void ConnectTradeLaws();
+    void ConnectSteps();
     void CentreOnScreen();
 
     void LayoutForPlayerCount();
@@ -82,6 +86,14 @@ private:
     void TakeGame(const GameState& loaded);
     void NameConfirmed();
 
+    void Keep();
+    void Undo();
+    void Redo();
+    /// Puts a game in force that was played before.
+    void Return(const Game& game);
+    /// All that happens until the window closes is one step.
+    void MakeOneStepOf(QWidget* window);
+
     void PlayerName_Click(int player);
     void StartGameButton_Click();
     void MenuOrlen_Click();
@@ -90,6 +102,8 @@ private:
     void Form_Unload();
 
     GameState& state;
+    History history;
+    KeptGame* kept;
     MainMenu* menu = nullptr;
     QWidget* client = nullptr;
     SetupPanel* setup = nullptr;

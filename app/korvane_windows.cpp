@@ -2,6 +2,7 @@
 
 #include "app/color_select_form.h"
 #include "app/korvane.h"
+#include "controls/message_box.h"
 #include "controls/twips.h"
 #include "dialogs/about_form.h"
 #include "dialogs/dice_form.h"
@@ -11,6 +12,7 @@
 #include "dialogs/tech_form.h"
 #include "economy/player_table.h"
 #include "economy/tech_mod_form.h"
+#include "saves/kept_game.h"
 
 #include <QApplication>
 
@@ -36,7 +38,7 @@ Form* Open(QWidget* owner, Arguments&... arguments) {
     return form;
 }
 
-// Makes and shows a modal window of this kind: the main window accepts no input until it is closed.
+// Makes a modal window of this kind: the main window accepts no input until it is closed.
 template<typename Form, typename... Arguments>
 Form* OpenModal(QWidget* owner, Arguments&... arguments) {
     auto* form = new Form(arguments..., owner);
@@ -52,6 +54,11 @@ void Korvane::LGame_Click() {
 }
 
 void Korvane::SGame_Click() {
+    if (kept && !kept->Problem().isEmpty()) {
+        ShowMessage(QMessageBox::Warning, ProgramTitle,
+                    QString("The running game is not kept in \"%1\".").arg(KeptGameName),
+                    kept->Problem(), this);
+    }
     OpenModal<SaveForm>(this, state);
 }
 
@@ -78,6 +85,7 @@ void Korvane::About_Click() {
 
 void Korvane::MenuTechMod_Click() {
     auto* form = OpenModal<TechModForm>(this);
+    MakeOneStepOf(form);
     connect(form, &TechModForm::ModifierChanged, this, &Korvane::SetModifier);
 }
 
@@ -94,6 +102,7 @@ void Korvane::SetModifier(int colour, int modifier) {
 void Korvane::PlayerName_Click(int player) {
     state.View.EditedPlayer = player;
     auto* form = new ColorSelectForm(state, this);
+    MakeOneStepOf(form);
     connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
     connect(form, &ColorSelectForm::Confirmed, this, &Korvane::NameConfirmed);
     form->Form_Load();

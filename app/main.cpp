@@ -2,24 +2,24 @@
 
 #include "app/display_choice.h"
 #include "app/korvane.h"
+#include "app/program_folder.h"
 #include "app/single_instance.h"
 #include "controls/accessible_names.h"
+#include "controls/double_click_guard.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
 #include "controls/program_icon.h"
 #include "planets/planet_list_file.h"
+#include "saves/kept_game.h"
 
 #include <QApplication>
-#include <QDir>
 
 namespace {
 
 /// Reads the planet list beside the program; says what is wrong with it and returns false if
 /// anything is.
 bool LoadPlanetList(ksm::GameState& state) {
-    const QDir folder(QCoreApplication::applicationDirPath());
-    const auto path =
-        std::filesystem::path(folder.absolutePath().toStdString()) / ksm::PlanetListName;
+    const std::filesystem::path path = ksm::ProgramFolder() / ksm::PlanetListName;
     const ksm::PlanetListResult list = ksm::ReadPlanetListFile(path);
     if (!list.Problems.empty()) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
@@ -42,6 +42,8 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName("ksm");
     ksm::ApplyLook();
     ksm::InstallAccessibleNames();
+    ksm::DoubleClickGuard guard;
+    application.installEventFilter(&guard);
     QApplication::setWindowIcon(ksm::ProgramIcon());
 
     const ksm::SingleInstance instance;
@@ -53,7 +55,9 @@ int main(int argc, char* argv[]) {
     if (!LoadPlanetList(state)) {
         return 1;
     }
-    ksm::Korvane window(state);
+    ksm::KeptGame kept(state);
+    // Two programs must not keep their games in one file.
+    ksm::Korvane window(state, instance.HasLock() ? &kept : nullptr);
     window.show();
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "controls/caption_label.h"
 #include "controls/choice_box.h"
 #include "controls/framed_bar.h"
+#include "controls/input.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
@@ -34,7 +35,7 @@ public:
 
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
-        if (IsClickable() && label->isEnabled()) {
+        if (IsClickable() && TakesInput(*label)) {
             names.prepend(pressAction());
         }
         return names;
@@ -114,7 +115,9 @@ public:
 
     QVariant currentValue() const override { return Translate(bar->value()); }
     void setCurrentValue(const QVariant& value) override {
-        bar->setValue(Translate(value.toInt()));
+        if (TakesInput(*bar)) {
+            bar->setValue(Translate(value.toInt()));
+        }
     }
     QVariant minimumValue() const override {
         const auto& count = bar->AnnouncedCount();

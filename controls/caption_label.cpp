@@ -1,6 +1,7 @@
 #include "controls/caption_label.h"
 
 #include "controls/fitting_font.h"
+#include "controls/input.h"
 #include "controls/plain_tool_tip.h"
 #include "controls/qt_values.h"
 
@@ -91,9 +92,11 @@ void CaptionLabel::Fit() const {
         return;
     }
     fittedWidth = room;
-    shownFont = FittingFont(font(), font().pixelSize() - 2, caption, room);
+    // No letter is narrower than a pixel; what lies behind them cannot be seen.
+    const QString start = caption.left(room + 1);
+    shownFont = FittingFont(font(), font().pixelSize() - 2, start, room);
     const QFontMetricsF metrics(shownFont);
-    shownText = metrics.elidedText(caption, Qt::ElideRight, room);
+    shownText = metrics.elidedText(start, Qt::ElideRight, room);
     shownWidth = metrics.horizontalAdvance(shownText);
 }
 
@@ -163,7 +166,7 @@ void CaptionLabel::keyPressEvent(QKeyEvent* event) {
 }
 
 void CaptionLabel::Activate() {
-    if (clickable) {
+    if (clickable && TakesInput(*this)) {
         emit Clicked();
     }
 }

@@ -60,11 +60,15 @@ void ChoiceBox::FitText(const QString& text) {
 }
 
 bool ChoiceBox::event(QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cut)) {
-        // The main menu's Ctrl+X comes before the line edit's Cut.
-        event->ignore();
-        return false;
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The main window's Ctrl+X, Ctrl+Z and Ctrl+Shift+Z come before the line edit's.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        for (const auto edit : {QKeySequence::Cut, QKeySequence::Undo, QKeySequence::Redo}) {
+            if (key->matches(edit)) {
+                event->ignore();
+                return false;
+            }
+        }
     }
     return QComboBox::event(event);
 }

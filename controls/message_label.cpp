@@ -34,9 +34,10 @@ void MessageLabel::SetCaption(const QString& text) {
     }
 }
 
-// The painter knows LF only.
+// The painter knows LF only, and no label has room for more letters.
 QString MessageLabel::Lines() const {
-    return QString(caption).remove('\r');
+    constexpr qsizetype MostLetters = 400;
+    return caption.left(MostLetters).remove('\r');
 }
 
 QFont MessageLabel::ShownFont() const {

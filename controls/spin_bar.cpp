@@ -1,6 +1,8 @@
 #include "controls/spin_bar.h"
 
-#include <QGuiApplication>
+#include "controls/input.h"
+
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -31,6 +33,22 @@ void SpinBar::Hold(SliderAction action) {
     pressed = action;
     setRepeatAction(action, RepeatDelay, RepeatInterval);
     update();
+    if (action == SliderNoAction) {
+        SetHeld(false);
+    }
+}
+
+void SpinBar::SetHeld(bool held) {
+    if (held != isHeld) {
+        isHeld = held;
+        held ? emit HoldBegan() : emit HoldEnded();
+    }
+}
+
+// A window or a menu that opened meanwhile gets the release of the mouse button.
+bool SpinBar::CanBeHeld() const {
+    return TakesInput(*this) && !QApplication::activePopupWidget() &&
+           QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
 }
 
 void SpinBar::mousePressEvent(QMouseEvent* event) {
@@ -39,6 +57,7 @@ void SpinBar::mousePressEvent(QMouseEvent* event) {
         return;
     }
     const SliderAction action = StepAt(event->position().toPoint());
+    SetHeld(true);
     triggerAction(action);
     Hold(action);
 }
@@ -57,12 +76,33 @@ void SpinBar::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SpinBar::timerEvent(QTimerEvent* event) {
-    // A window or a menu that opened meanwhile got the release of the mouse button.
-    if (pressed != SliderNoAction && !(QGuiApplication::mouseButtons() & Qt::LeftButton)) {
+    if (pressed != SliderNoAction && !CanBeHeld()) {
         Hold(SliderNoAction);
         return;
     }
     FramedBar::timerEvent(event);
+}
+
+void SpinBar::hideEvent(QHideEvent* event) {
+    Hold(SliderNoAction);
+    FramedBar::hideEvent(event);
+}
+
+void SpinBar::keyPressEvent(QKeyEvent* event) {
+    SetHeld(true);
+    FramedBar::keyPressEvent(event);
+}
+
+void SpinBar::keyReleaseEvent(QKeyEvent* event) {
+    FramedBar::keyReleaseEvent(event);
+    if (!event->isAutoRepeat()) {
+        SetHeld(false);
+    }
+}
+
+void SpinBar::focusOutEvent(QFocusEvent* event) {
+    FramedBar::focusOutEvent(event);
+    SetHeld(false);
 }
 
 void SpinBar::PaintHalf(QPainter& painter, SliderAction action) const {

@@ -14,7 +14,16 @@ class SpinBar : public FramedBar {
 public:
     SpinBar(const QString& objectName, const QRect& place, QWidget* parent);
 
+signals:
+    /// A mouse button or a key is held on the bar: all of its steps are one thing that is done.
+    void HoldBegan();
+    void HoldEnded();
+
 protected:
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -25,9 +34,12 @@ private:
     /// The step that a button at this place stands for.
     SliderAction StepAt(QPoint place) const;
     void Hold(SliderAction action);
+    void SetHeld(bool held);
+    bool CanBeHeld() const;
     void PaintHalf(QPainter& painter, SliderAction action) const;
 
     SliderAction pressed = SliderNoAction; ///< the button under the mouse button
+    bool isHeld = false;
 };
 
 } // namespace ksm

@@ -20,8 +20,29 @@ constexpr PlanetIndexList EmptyPlanetList() {
     return list;
 }
 
-struct PlayerRecord {
-    // Inputs: what the player is called.
+/// Derived: recomputed as a whole by UpdateValues, wide enough for every legal planet list.
+struct PlayerFigures {
+    int Resources = 0;
+    int PlanetResources = 0;
+    int Influence = 0;
+    int PlanetInfluence = 0;
+    int PlanetCount = 0;
+    int AltheranHomes = 0; ///< how many of the planets are home to the Altheran
+    int RedDiscount = 0;
+    int BlueDiscount = 0;
+    int GreenDiscount = 0;
+    // The figures that exist only as captions. Until the first UpdateValues they read as designed.
+    int Credits = 0;
+    int RedTech = BaseTechnologyCost;
+    int BlueTech = BaseTechnologyCost;
+    int GreenTech = BaseTechnologyCost;
+    int YellowTech = BaseTechnologyCost;
+
+    bool operator==(const PlayerFigures&) const = default;
+};
+
+struct PlayerRecord : PlayerFigures {
+    // What the player is called.
     std::string Name; ///< UTF-8, as typed in the name dialog
     /// Whether a name was ever typed, be it an empty one. Until then the player's labels read
     /// "Player 3" and the like.
@@ -30,7 +51,7 @@ struct PlayerRecord {
     ColourPair NameColours;  ///< of the name in the player table
     ColourPair TradeColours; ///< of the trade label and of the lines of agreements
 
-    // Inputs: what the player has.
+    // What the player has.
     ksm::Race Race = ksm::Race::None;
     std::uint8_t RedCost = BaseTechnologyCost; ///< the four base costs follow from the race
     std::uint8_t BlueCost = BaseTechnologyCost;
@@ -49,23 +70,6 @@ struct PlayerRecord {
     /// trade label stands. Setup can leave a player out who has agreements: the label is hidden
     /// then and stays where it was, and the lines of the agreements end there.
     int TradeRing = MaxPlayers;
-
-    // Derived: recomputed as a whole by UpdateValues, wide enough for every legal planet list.
-    int Resources = 0;
-    int PlanetResources = 0;
-    int Influence = 0;
-    int PlanetInfluence = 0;
-    int PlanetCount = 0;
-    int AltheranHomes = 0; ///< how many of the planets are home to the Altheran
-    int RedDiscount = 0;
-    int BlueDiscount = 0;
-    int GreenDiscount = 0;
-    // The figures that exist only as captions. Until the first UpdateValues they read as designed.
-    int Credits = 0;
-    int RedTech = BaseTechnologyCost;
-    int BlueTech = BaseTechnologyCost;
-    int GreenTech = BaseTechnologyCost;
-    int YellowTech = BaseTechnologyCost;
 
     bool operator==(const PlayerRecord&) const = default;
 };

@@ -35,4 +35,14 @@ void ListOwner(GameState& state, int owner) {
     state.View.MarkedOwner = NoOwner;
 }
 
+void RelistBoard(GameState& state) {
+    state.View.MarkedRows.reset();
+    const int owner = state.View.BoardPlayer;
+    const bool isThere = state.Started && (owner == AllPlanets || owner <= state.NumPlayers);
+    if (!state.Started) {
+        state.View.BoardPosition = 0;
+    }
+    ListOwner(state, isThere ? owner : AllPlanets);
+}
+
 } // namespace ksm

@@ -19,4 +19,8 @@ BoardRows ListBoard(const GameState& state);
 /// reaches; no owner is marked by a drag any longer.
 void ListOwner(GameState& state, int owner);
 
+/// The game became another one while the board showed something of it: what it shows then is what
+/// it showed, as far as that is there, without the marks of a drag.
+void RelistBoard(GameState& state);
+
 } // namespace ksm

@@ -148,14 +148,13 @@ void PlanetBoard::PlanetScroller_Change(int position) {
     }
 }
 
-const QWidget* PlanetBoard::ControlAt(QPoint global) const {
-    // Another window can lie over the board.
+const QWidget* PlanetBoard::SeenAt(QPoint global) const {
+    // Another window can lie over the board, which only the window system knows.
     const QWidget* control = QApplication::widgetAt(global);
     return control == this || isAncestorOf(control) ? control : nullptr;
 }
 
-int PlanetBoard::OwnerAt(QPoint global) const {
-    const QWidget* control = ControlAt(global);
+int PlanetBoard::OwnerOf(const QWidget* control) const {
     for (const auto& [owner, label] : InvasionPlayer) {
         if (label == control) {
             return owner;
@@ -164,8 +163,7 @@ int PlanetBoard::OwnerAt(QPoint global) const {
     return NoOwner;
 }
 
-bool PlanetBoard::IsBareBoard(QPoint global) const {
-    const QWidget* control = ControlAt(global);
+bool PlanetBoard::IsBare(const QWidget* control) const {
     return control == this || std::ranges::any_of(rows, [&](const BoardRow& row) {
                return row.Tag() == NoPlanet && row.Holds(control);
            });
@@ -177,7 +175,7 @@ void PlanetBoard::Take(int row) {
 }
 
 void PlanetBoard::DragTo(QPoint global) {
-    const int owner = OwnerAt(global);
+    const int owner = OwnerOf(childAt(mapFromGlobal(global)));
     if (owner != NoOwner && dragged) {
         InvasionPlayer_DragOver(owner, *dragged);
     }
@@ -185,10 +183,11 @@ void PlanetBoard::DragTo(QPoint global) {
 
 void PlanetBoard::DropAt(QPoint global) {
     const std::optional<Journey> ended = std::exchange(dragged, std::nullopt);
-    const int owner = OwnerAt(global);
+    const QWidget* control = SeenAt(global);
+    const int owner = OwnerOf(control);
     if (ended && owner != NoOwner) {
         InvasionPlayer_DragDrop(owner, *ended);
-    } else if (IsBareBoard(global)) {
+    } else if (IsBare(control)) {
         InvasionPic_DragDrop();
     }
 }
@@ -216,8 +215,9 @@ void PlanetBoard::InvasionPlayer_DragDrop(int owner, const Journey& journey) {
     if (TransferPlanet(state, journey.Tag, owner)) {
         emit InputChanged();
         List(state.View.BoardPlayer);
+    } else {
+        ShowMarks();
     }
-    ShowMarks();
     emit Changed();
 }
 

@@ -70,11 +70,11 @@ private:
     void ShowMarks();
     BoardRow& Row(int row) { return rows.at(static_cast<std::size_t>(row)); }
     /// The panel or its control that is seen at this place of the screen, or null.
-    const QWidget* ControlAt(QPoint global) const;
-    /// The index of the owner label there, or `NoOwner`.
-    int OwnerAt(QPoint global) const;
-    /// Whether nothing but the board is there. An empty row counts as the board.
-    bool IsBareBoard(QPoint global) const;
+    const QWidget* SeenAt(QPoint global) const;
+    /// The index of the owner label that this is, or `NoOwner`.
+    int OwnerOf(const QWidget* control) const;
+    /// Whether this is nothing but the board. An empty row counts as the board.
+    bool IsBare(const QWidget* control) const;
 
     GameState& state;
     std::map<int, CaptionLabel*> InvasionPlayer; ///< 0..10 and `AllPlanets`

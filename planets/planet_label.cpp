@@ -1,5 +1,6 @@
 #include "planets/planet_label.h"
 
+#include "controls/input.h"
 #include "controls/shape_frame.h"
 
 #include <QApplication>
@@ -26,7 +27,8 @@ void PlanetLabel::SetPlanet(const QString& name) {
         return;
     }
     SetCaption(name);
-    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(name));
+    // No letter is narrower than a pixel.
+    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(name.left(longestName)));
     resize(width == 0 ? longestName : std::min(width, longestName), RowHeight);
 }
 
@@ -90,7 +92,7 @@ void PlanetLabel::MoveOutline(QPoint global) {
 }
 
 void PlanetLabel::Activate() {
-    if (!dragged) {
+    if (!dragged && TakesInput(*this)) {
         emit Activated();
     }
 }

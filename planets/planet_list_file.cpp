@@ -15,6 +15,7 @@ namespace ksm {
 namespace {
 
 constexpr int LargestFigure = std::numeric_limits<std::uint8_t>::max();
+constexpr std::uintmax_t LargestPlanetList = std::uintmax_t{1024} * 1024;
 constexpr std::size_t ProblemsShown = 10;
 constexpr std::size_t NumberCharactersShown = 20;
 
@@ -150,6 +151,9 @@ PlanetListResult ReadPlanetList(std::string_view bytes) {
 PlanetListResult ReadPlanetListFile(const std::filesystem::path& path) {
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (!error && size > LargestPlanetList) {
+        return {{}, {{0, "the file has " + std::to_string(size) + " bytes", "1 MiB"}}};
+    }
     std::string bytes(error ? 0 : size, '\0');
     if (!error) {
         errno = 0;

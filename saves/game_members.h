@@ -82,7 +82,7 @@ private:
     static void DescribePlanets(Members& members, State& state) {
         const auto loaded = state.LoadedPlanets();
         std::vector<PlanetRecord> planets(loaded.begin(), loaded.end());
-        members.List("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
+        members.Rows("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
             constexpr int LargestByte = std::numeric_limits<std::uint8_t>::max();
             planet.Text("Name", record.Name);
             planet.Number("Resources", record.Resources, 0, LargestByte);
@@ -155,17 +155,12 @@ private:
         members.Number("IndepSecond", state.IndepSecond, 0, MaxPlayers);
         members.List("TradeStrokes", state.TradeStrokes, 0, MaxStrokes,
                      [](auto& stroke, auto& drawn) {
-                         stroke.Object("From", drawn.From, DescribePoint);
-                         stroke.Object("To", drawn.To, DescribePoint);
+                         stroke.Place("From", drawn.From, 300, 180);
+                         stroke.Place("To", drawn.To, 300, 180);
                          stroke.Hue("Colour", drawn.Colour);
                          stroke.Number("Width", drawn.Width, 1, 6);
                      });
     }
-
-    static constexpr auto DescribePoint = [](auto& point, auto& place) {
-        point.Number("X", place.X, 0, 300);
-        point.Number("Y", place.Y, 0, 180);
-    };
 };
 
 } // namespace ksm

@@ -4,17 +4,10 @@
 
 namespace ksm {
 
-JsonReader::JsonReader(const QJsonValue& object, const QString& place, QString& problem)
-    : rest(object.toObject()), ownPlace(place), firstProblem(problem) {
-    if (!object.isObject()) {
-        Refuse(place, "is not an object");
-    }
-}
-
 void JsonReader::Truth(const char* name, bool& value) {
     const QJsonValue found = Take(name);
     if (!found.isBool()) {
-        Refuse(Place(name), "is neither true nor false");
+        Refuse(Where(name), "is neither true nor false");
     }
     value = found.toBool(value);
 }
@@ -23,7 +16,7 @@ void JsonReader::Text(const char* name, std::string& utf8) {
     const QJsonValue found = Take(name);
     QString text = found.toString();
     if (!found.isString() || !text.isValidUtf16()) {
-        Refuse(Place(name), "is not a text");
+        Refuse(Where(name), "is not a text");
         return;
     }
     // At the beginning of a text Qt takes a byte order mark for none of its characters.
@@ -38,33 +31,43 @@ void JsonReader::Hue(const char* name, Colour& colour) {
     bool isNumber = false;
     const uint number = QStringView(text).mid(1).toUInt(&isNumber, 16);
     if (text.size() != 7 || !text.startsWith('#') || !isNumber) {
-        Refuse(Place(name), "is not a colour such as #FF8000");
+        Refuse(Where(name), "is not a colour such as #FF8000");
         return;
     }
     const auto part = [&](int bits) { return static_cast<std::uint8_t>(number >> bits & 0xFF); };
     colour = {part(16), part(8), part(0)};
 }
 
+void JsonReader::Place(const char* name, Point& place, int right, int bottom) {
+    const QJsonArray pair = TakeList(name, 2, 2);
+    place.X = CheckNumber(pair.at(0), Where(name, 0), place.X, 0, right);
+    place.Y = CheckNumber(pair.at(1), Where(name, 1), place.Y, 0, bottom);
+}
+
 void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, int longest,
                          int least, int most) {
     values.clear();
     for (const QJsonValue element : TakeList(name, 0, longest)) {
-        const QString place = Place(name, static_cast<qsizetype>(values.size()));
+        const QString place = Where(name, static_cast<qsizetype>(values.size()));
         values.push_back(
             static_cast<std::uint8_t>(CheckNumber(element, place, least, least, most)));
     }
 }
 
 void JsonReader::Finish() {
+    if (!restOfRow.isEmpty()) {
+        Refuse(ownPlace, "is too long");
+    }
     if (!rest.isEmpty()) {
-        Refuse(Place(qPrintable(rest.begin().key().left(40))), "is unknown");
+        Refuse(Where(qPrintable(rest.begin().key().left(40))), "is unknown");
     }
 }
 
 QJsonValue JsonReader::Take(const char* name) {
-    QJsonValue value = rest.take(QLatin1StringView(name));
+    QJsonValue value =
+        isRow && !restOfRow.isEmpty() ? restOfRow.takeAt(0) : rest.take(QLatin1StringView(name));
     if (value.isUndefined()) {
-        Refuse(Place(name), "is missing");
+        Refuse(Where(name), "is missing");
     }
     return value;
 }
@@ -75,7 +78,7 @@ QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
     if (value.isArray() && list.size() >= fewest && list.size() <= longest) {
         return list;
     }
-    Refuse(Place(name), QString("is not a list of %1 to %2 elements").arg(fewest).arg(longest));
+    Refuse(Where(name), QString("is not a list of %1 to %2 elements").arg(fewest).arg(longest));
     return {};
 }
 
@@ -97,16 +100,16 @@ std::size_t JsonReader::CheckWord(const char* name, std::size_t otherwise,
     if (found != words.end()) {
         return static_cast<std::size_t>(found - words.begin());
     }
-    Refuse(Place(name), "is none of the words allowed there");
+    Refuse(Where(name), "is none of the words allowed there");
     return otherwise;
 }
 
-QString JsonReader::Place(const char* name) const {
+QString JsonReader::Where(const char* name) const {
     return ownPlace.isEmpty() ? QString(name) : ownPlace + '.' + name;
 }
 
-QString JsonReader::Place(const char* list, qsizetype index) const {
-    return Place(list) + QString("[%1]").arg(index);
+QString JsonReader::Where(const char* list, qsizetype index) const {
+    return Where(list) + QString("[%1]").arg(index);
 }
 
 void JsonReader::Refuse(const QString& where, const QString& what) {

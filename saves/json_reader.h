@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/colour.h"
+#include "model/point.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -21,16 +22,22 @@ class JsonReader {
 public:
     static constexpr bool Reading = true;
 
-    /// `place` says where in the file the object stands, as in "Players[3]"; it may be empty.
-    JsonReader(const QJsonValue& object, const QString& place, QString& problem);
+    /// Reads the members of an object, or those of a row, a list that leaves their names out.
+    /// `place` says where in the file it stands, as in "Players[3]"; it may be empty.
+    JsonReader(const QJsonObject& object, const QString& place, QString& problem)
+        : rest(object), ownPlace(place), firstProblem(problem) {}
+    JsonReader(const QJsonArray& row, const QString& place, QString& problem)
+        : isRow(true), restOfRow(row), ownPlace(place), firstProblem(problem) {}
 
     template<typename Whole>
     void Number(const char* name, Whole& value, int least, int most) {
-        value = static_cast<Whole>(CheckNumber(Take(name), Place(name), value, least, most));
+        value = static_cast<Whole>(CheckNumber(Take(name), Where(name), value, least, most));
     }
     void Truth(const char* name, bool& value);
     void Text(const char* name, std::string& utf8);
     void Hue(const char* name, Colour& colour);
+    /// A list of two numbers, 0 to `right` and 0 to `bottom`.
+    void Place(const char* name, Point& place, int right, int bottom);
 
     /// One of `words`, which stand in the order of the enumeration.
     template<typename Enum>
@@ -40,7 +47,7 @@ public:
 
     template<typename Value, typename DescribeMembers>
     void Object(const char* name, Value& value, const DescribeMembers& describe) {
-        Read(Take(name), Place(name), value, describe);
+        Read(Take(name), Where(name), value, describe);
     }
 
     /// A list of at most `longest` numbers.
@@ -53,7 +60,7 @@ public:
         const int count = static_cast<int>(values.size());
         qsizetype index = 0;
         for (const QJsonValue element : TakeList(name, count, count)) {
-            Read(element, Place(name, index), values[static_cast<std::size_t>(index)], describe);
+            Read(element, Where(name, index), values[static_cast<std::size_t>(index)], describe);
             ++index;
         }
     }
@@ -64,8 +71,24 @@ public:
               const DescribeMembers& describe) {
         values.clear();
         for (const QJsonValue element : TakeList(name, fewest, longest)) {
-            const QString place = Place(name, static_cast<qsizetype>(values.size()));
+            const QString place = Where(name, static_cast<qsizetype>(values.size()));
             Read(element, place, values.emplace_back(), describe);
+        }
+    }
+
+    /// A list of `fewest` to `longest` rows.
+    template<typename Value, typename DescribeMembers>
+    void Rows(const char* name, std::vector<Value>& values, int fewest, int longest,
+              const DescribeMembers& describe) {
+        values.clear();
+        for (const QJsonValue element : TakeList(name, fewest, longest)) {
+            const QString place = Where(name, static_cast<qsizetype>(values.size()));
+            if (!element.isArray()) {
+                Refuse(place, "is not a list");
+            }
+            JsonReader members(element.toArray(), place, firstProblem);
+            describe(members, values.emplace_back());
+            members.Finish();
         }
     }
 
@@ -76,7 +99,10 @@ private:
     template<typename Value, typename DescribeMembers>
     void Read(const QJsonValue& object, const QString& place, Value& value,
               const DescribeMembers& describe) {
-        JsonReader members(object, place, firstProblem);
+        if (!object.isObject()) {
+            Refuse(place, "is not an object");
+        }
+        JsonReader members(object.toObject(), place, firstProblem);
         describe(members, value);
         members.Finish();
     }
@@ -87,12 +113,14 @@ private:
                     int most);
     std::size_t CheckWord(const char* name, std::size_t otherwise,
                           std::span<const std::string_view> words);
-    QString Place(const char* name) const;
-    QString Place(const char* list, qsizetype index) const;
+    QString Where(const char* name) const;
+    QString Where(const char* list, qsizetype index) const;
     /// Notes that `where` is wrong, unless something is already.
     void Refuse(const QString& where, const QString& what);
 
+    bool isRow = false;
     QJsonObject rest;
+    QJsonArray restOfRow;
     QString ownPlace;
     QString& firstProblem;
 };

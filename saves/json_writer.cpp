@@ -7,8 +7,14 @@ void JsonWriter::Text(const char* name, const std::string& utf8) {
 }
 
 void JsonWriter::Hue(const char* name, Colour colour) {
-    const uint number = uint{colour.Red} << 16 | uint{colour.Green} << 8 | colour.Blue;
-    Put(name, QString("#%1").arg(number, 6, 16, QChar('0')).toUpper());
+    const std::array bytes{static_cast<char>(colour.Red), static_cast<char>(colour.Green),
+                           static_cast<char>(colour.Blue)};
+    const QByteArray digits = QByteArray::fromRawData(bytes.data(), bytes.size()).toHex().toUpper();
+    Put(name, QString(u'#' + QLatin1StringView(digits)));
+}
+
+void JsonWriter::Place(const char* name, Point place, int, int) {
+    Put(name, QJsonArray{place.X, place.Y});
 }
 
 void JsonWriter::Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/colour.h"
+#include "model/point.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -13,16 +14,21 @@
 
 namespace ksm {
 
-/// Takes the members of an object in any order. It has the functions of a JsonReader, so that one
-/// description of the members serves both; the ranges are the reader's business.
+/// Takes the members of an object, or the values of a row, a list that leaves their names out. It
+/// has the functions of a JsonReader, so that one description of the members serves both; the
+/// ranges are the reader's business.
 class JsonWriter {
 public:
     static constexpr bool Reading = false;
+    enum class Form { Object, Row };
+
+    explicit JsonWriter(Form ownForm = Form::Object) : form(ownForm) {}
 
     void Number(const char* name, int value, int, int) { Put(name, value); }
     void Truth(const char* name, bool value) { Put(name, value); }
     void Text(const char* name, const std::string& utf8);
     void Hue(const char* name, Colour colour);
+    void Place(const char* name, Point place, int, int);
 
     template<typename Enum>
     void Word(const char* name, Enum value, std::span<const std::string_view> words) {
@@ -35,6 +41,19 @@ public:
     }
 
     void Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int);
+
+    /// A list of rows.
+    template<typename Value, typename DescribeMembers>
+    void Rows(const char* name, const std::vector<Value>& values, int, int,
+              const DescribeMembers& describe) {
+        QJsonArray list;
+        for (const Value& value : values) {
+            JsonWriter members(Form::Row);
+            describe(members, value);
+            list.append(members.row);
+        }
+        Put(name, list);
+    }
 
     template<typename Value, typename DescribeMembers>
     void Elements(const char* name, std::span<const Value> values,
@@ -56,7 +75,11 @@ public:
 
 private:
     void Put(const char* name, const QJsonValue& value) {
-        object.insert(QLatin1StringView(name), value);
+        if (form == Form::Row) {
+            row.append(value);
+        } else {
+            object.insert(QLatin1StringView(name), value);
+        }
     }
 
     template<typename Value, typename DescribeMembers>
@@ -66,7 +89,9 @@ private:
         return members.object;
     }
 
+    Form form;
     QJsonObject object;
+    QJsonArray row;
 };
 
 } // namespace ksm

@@ -25,9 +25,10 @@ inline GameState GameOfTwentyPlanets() {
 /// The window as a player meets it; controls are found by their names.
 struct GameWindow {
     GameState state;
-    Korvane window{state};
+    Korvane window;
 
-    explicit GameWindow(GameState game = GameOfTwentyPlanets()) : state(std::move(game)) {
+    explicit GameWindow(GameState game = GameOfTwentyPlanets(), KeptGame* keeper = nullptr)
+        : state(std::move(game)), window(state, keeper) {
         window.show();
     }
 

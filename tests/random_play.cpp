@@ -83,24 +83,48 @@ void RandomPlay::TradeSomething() {
     }
 }
 
+namespace {
+
+/// The middle of a control, as a place in the dragged label.
+QPoint Over(const QWidget* row, const QWidget* target) {
+    return row->mapFromGlobal(target->mapToGlobal(target->rect().center()));
+}
+
+} // namespace
+
+// With the button held, as the platform reports it.
+void RandomPlay::MoveOver(QWidget* row, const QWidget* target) {
+    const QPoint place = Over(row, target);
+    QMouseEvent move(QEvent::MouseMove, place, row->mapToGlobal(place), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(row, &move);
+}
+
+void RandomPlay::Drag(int row, int owner) {
+    auto* label = game.Find<QWidget>("InvasionPlanet", row);
+    const auto* target = game.Find<QWidget>("InvasionPlayer", owner);
+    QTest::mousePress(label, Qt::LeftButton, {}, QPoint(3, 3));
+    MoveOver(label, target);
+    QTest::mouseRelease(label, Qt::LeftButton, {}, Over(label, target));
+}
+
 void RandomPlay::DragSomething() {
     auto* row = game.Find<QWidget>("InvasionPlanet", Pick(0, BoardRowCount - 1));
-    const auto over = [&](const QWidget* target) {
-        return row->mapFromGlobal(target->mapToGlobal(target->rect().center()));
+    const auto owner = [&] {
+        return game.Find<QWidget>("InvasionPlayer", Pick(0, game.state.NumPlayers));
     };
     QTest::mousePress(row, Qt::LeftButton, {}, QPoint(3, 3));
-    const QWidget* target = game.Find<QWidget>("InvasionPlayer", Pick(0, game.state.NumPlayers));
-    for (int move = Pick(1, 3); move > 0; --move) {
-        target = game.Find<QWidget>("InvasionPlayer", Pick(0, game.state.NumPlayers));
-        QMouseEvent event(QEvent::MouseMove, over(target), row->mapToGlobal(over(target)),
-                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(row, &event);
+    const QWidget* target = owner();
+    MoveOver(row, target);
+    for (int move = Pick(0, 2); move > 0; --move) {
+        target = owner();
+        MoveOver(row, target);
     }
     // Now and then on another planet, where nothing takes the marks of the drag away.
     if (Pick(1, 5) == 1) {
         target = game.Find<QWidget>("InvasionPlanet", Pick(0, BoardRowCount - 1));
     }
-    QTest::mouseRelease(row, Qt::LeftButton, {}, over(target));
+    QTest::mouseRelease(row, Qt::LeftButton, {}, Over(row, target));
 }
 
 void RandomPlay::NameSomebody() {

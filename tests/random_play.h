@@ -14,11 +14,15 @@ public:
     /// Does one thing that a person can do just then.
     void Step();
 
+    /// Drags the planet in a row of the board onto an owner.
+    void Drag(int row, int owner);
+
 private:
     void SetUpSomething();
     void PlaySomething();
     void TradeSomething();
     void DragSomething();
+    void MoveOver(QWidget* row, const QWidget* target);
     void NameSomebody();
     void ModifyCosts();
     void WriteNotes();

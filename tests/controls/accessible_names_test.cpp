@@ -39,7 +39,16 @@ TEST_F(AccessibleNames, ALabelThatBecomesClickableIsAButton) {
     EXPECT_EQ(Of(&label)->role(), QAccessible::StaticText);
     label.MakeClickable();
     EXPECT_EQ(Of(&label)->role(), QAccessible::Button);
-    Of(&label)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    const auto press = [&] {
+        Of(&label)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    };
+    press();
+    EXPECT_EQ(clicks.count(), 0) << "what is not shown cannot be pressed";
+    label.show();
+    press();
+    EXPECT_EQ(clicks.count(), 1);
+    label.setEnabled(false);
+    press();
     EXPECT_EQ(clicks.count(), 1);
 }
 
@@ -47,6 +56,7 @@ TEST_F(AccessibleNames, ABarSaysAndTakesItsCountRatherThanItsPosition) {
     SpinBar docks("DockScroll(3)", QRect(0, 0, 17, 25), &window);
     docks.SetRange(0, 10, 9);
     docks.SetCount({.AtZero = 10, .Least = 0, .Most = 10});
+    docks.show();
     QAccessibleValueInterface* value = Of(&docks)->valueInterface();
     EXPECT_EQ(value->currentValue(), 1);
     EXPECT_EQ(value->minimumValue(), 0);

@@ -20,6 +20,7 @@ TEST(CaptionLabel, ShowsMarkupAsTypedAndWhatIsTooWideBehindAnEllipsis) {
 TEST(CaptionLabel, ClicksOnceByMouseAndByKey) {
     QWidget window;
     CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
+    window.show();
     QSignalSpy clicks(&label, &CaptionLabel::Clicked);
     QTest::mouseClick(&label, Qt::LeftButton);
     EXPECT_EQ(clicks.count(), 0) << "only a clickable label clicks";

@@ -9,7 +9,10 @@ namespace {
 
 class SpinBarTest : public testing::Test {
 protected:
-    SpinBarTest() { bar.SetRange(0, 9, 5); }
+    SpinBarTest() {
+        bar.SetRange(0, 9, 5);
+        window.show();
+    }
 
     const QPoint down{8, 20};
     QWidget window;

@@ -2,6 +2,8 @@
 #include "tests/saves/sample_game.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -13,6 +15,19 @@ namespace {
 
 class GameFile : public testing::Test {
 protected:
+    static GameState WithNotes(const std::string& notes) {
+        GameState game = SampleGame();
+        game.NotesText = notes;
+        return game;
+    }
+    static std::string NotesIn(const QString& name) {
+        const ReadGameResult read = LoadGameFile(name);
+        return read.Game ? read.Game->NotesText : read.Problem.toStdString();
+    }
+    QStringList Files() const {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+
     const QTemporaryDir folder;
     const QString path = folder.filePath("a.ksm");
 };
@@ -20,14 +35,64 @@ protected:
 TEST_F(GameFile, ComesBackFromDiskUnlessItCannotBeWritten) {
     EXPECT_EQ(SaveGameFile(path, GameState()), "");
     EXPECT_EQ(SaveGameFile(path, SampleGame()), "") << "over an older game";
-    GameState large = SampleGame();
-    large.NotesText = std::string(LargestGameFile, 'n');
-    EXPECT_TRUE(SaveGameFile(path, large).contains("Shorten the notes"));
-    EXPECT_NE(SaveGameFile(path + "/b.ksm", SampleGame()), "") << "a file as folder";
-    EXPECT_NE(SaveGameFile(folder.path(), SampleGame()), "") << "a folder as file";
-    const ReadGameResult loaded = LoadGameFile(path);
-    ASSERT_TRUE(loaded.Game) << loaded.Problem.toStdString();
-    EXPECT_TRUE(*loaded.Game == SampleGame());
+    const std::tuple<QString, GameState, const char*> failures[]{
+        {path, WithNotes(std::string(LargestGameFile, 'n')), "Shorten the notes"},
+        {path + "/b.ksm", SampleGame(), ""}, // a file as folder
+        {folder.path(), SampleGame(), "This is not a file"},
+        {folder.filePath(QString(255, 'n')), SampleGame(), "The name has 255 bytes, but 254"}};
+    for (const auto& [name, game, reason] : failures) {
+        const QString problem = SaveGameFile(name, game);
+        EXPECT_TRUE(problem.contains(reason) && !problem.isEmpty()) << problem.toStdString();
+    }
+    EXPECT_TRUE(SaveGameFile(folder.filePath("no/a.ksm"), SampleGame())
+                    .startsWith("\"a.ksm\" in the folder \"" + folder.filePath("no") + "\": "));
+    EXPECT_TRUE(*LoadGameFile(path).Game == SampleGame());
+}
+
+TEST_F(GameFile, EveryNameThatCanBeSavedCanBeSavedAgainAndLoaded) {
+    const QString oldFolder = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    for (const QString& name : {QString(":colon.ksm"), QString(".ksm"), QString(254, 'n')}) {
+        for (const char* notes : {"once", "twice"}) {
+            EXPECT_EQ(SaveGameFile(name, WithNotes(notes)), "") << name.toStdString();
+            EXPECT_EQ(NotesIn(name), notes);
+        }
+        EXPECT_TRUE(QFileInfo::exists("./" + name));
+    }
+    QDir::setCurrent(oldFolder);
+}
+
+TEST_F(GameFile, AnotherGameThatIsReplacedStays) {
+    for (const char* notes : {"last week", "tonight", "tonight"}) {
+        ASSERT_EQ(SaveGameFile(path, WithNotes(notes)), "");
+    }
+    EXPECT_EQ(NotesIn(path), "tonight");
+    EXPECT_EQ(NotesIn(path + '~'), "last week") << "saving twice does not lose it";
+    ASSERT_EQ(SaveGameFile(path, WithNotes("later")), "");
+    EXPECT_EQ(NotesIn(path + '~'), "tonight");
+    EXPECT_EQ(Files(), QStringList({"a.ksm", "a.ksm~"}));
+}
+
+TEST_F(GameFile, GoesWhereALinkLeadsAndKeepsWhoMayReadIt) {
+    ASSERT_EQ(SaveGameFile(folder.filePath("real.ksm"), SampleGame()), "");
+    QFile::setPermissions(folder.filePath("real.ksm"), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(QFile::link("real.ksm", path));
+    EXPECT_EQ(SaveGameFile(path, WithNotes("new")), "");
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(NotesIn(folder.filePath("real.ksm")), "new");
+    EXPECT_FALSE(QFileInfo(path).permission(QFile::ReadOther));
+}
+
+TEST_F(GameFile, RemovesOnlyWhatDeadProcessesLeft) {
+    const QString begin = folder.filePath(".ksm-" + QSysInfo::machineHostName() + '-');
+    const QString dead = begin + "999999999.tmp";
+    const QString alive = begin + "1-old.tmp";
+    for (const QString& name : {dead, alive, folder.filePath(".ksm-elsewhere-999999999.tmp")}) {
+        QFile(name).open(QIODevice::WriteOnly);
+    }
+    ASSERT_EQ(SaveGameFile(path, SampleGame()), "");
+    EXPECT_FALSE(QFileInfo::exists(dead));
+    EXPECT_EQ(Files().size(), 3);
 }
 
 // Limits the size of files, which fails halfway just as a full disk does.

@@ -1,0 +1,222 @@
+#include "model/change.h"
+
+#include "model/player_labels.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace ksm {
+
+namespace {
+
+using Descriptions = std::vector<std::string>;
+
+std::string NameOf(const Game& game, int player) {
+    const std::string& name = game.Player(player).Name;
+    return name.empty() ? "Player " + std::to_string(player) : name;
+}
+
+std::string OwnerName(const Game& game, int owner) {
+    return owner == NeutralOwner ? "Neutral" : NameOf(game, owner);
+}
+
+/// A technology of a player, by the caption of its row.
+struct Technology {
+    const char* Caption;
+    bool PlayerRecord::*Owned;
+};
+constexpr std::array<Technology, 3> Technologies{{{"Enviro Comp.", &PlayerRecord::Enviro},
+                                                  {"Pellam Tools", &PlayerRecord::PellamTools},
+                                                  {"Micro Tech.", &PlayerRecord::Micro}}};
+
+struct Law {
+    const char* Caption;
+    bool LawMarks::*InForce;
+};
+constexpr std::array<Law, 4> Laws{{{"Labour Union", &LawMarks::LabourUnion},
+                                   {"Free Trade", &LawMarks::FreeTrade},
+                                   {"Trade Restrictions", &LawMarks::TradeRestrictions},
+                                   {"Orlen house rules", &LawMarks::OrlenHouseRules}}};
+
+/// Compares the two games topic by topic.
+class Comparison {
+public:
+    Comparison(const Game& earlier, const Game& later) : before(earlier), after(later) {}
+
+    std::string Describe() const {
+        const Descriptions found = Races();
+        Descriptions others = Setup();
+        for (const Descriptions& topic : {Names(), Docks(), Marks(), Trade(), Modifiers()}) {
+            others.insert(others.end(), topic.begin(), topic.end());
+        }
+        // A race brings planets and Enviro Comp. with it.
+        if (found.size() == 1 && others.empty()) {
+            return found.front();
+        }
+        for (const Descriptions& topic : {found, Boxes(), Owners()}) {
+            others.insert(others.end(), topic.begin(), topic.end());
+        }
+        return others.size() == 1 ? others.front() : "Load Game";
+    }
+
+private:
+    /// One description for each player for whom `differ` finds a difference.
+    template<typename Differ>
+    Descriptions ForPlayers(const Differ& differ) const {
+        Descriptions found;
+        for (int player = 1; player <= MaxPlayers; ++player) {
+            const std::string what = differ(before.Player(player), after.Player(player));
+            if (!what.empty()) {
+                found.push_back(what + ", " + NameOf(after, player));
+            }
+        }
+        return found;
+    }
+
+    Descriptions Setup() const {
+        Descriptions found;
+        if (before.NumPlayers != after.NumPlayers) {
+            found.push_back(std::to_string(after.NumPlayers) + " players");
+        }
+        if (before.Started != after.Started || before.NumPlanets != after.NumPlanets) {
+            found.insert(found.end(), 2, "Load Game");
+        }
+        return found;
+    }
+
+    Descriptions Races() const {
+        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) {
+            return was.Race == is.Race ? std::string() : std::string(TraitsOf(is.Race).Caption);
+        });
+    }
+
+    Descriptions Names() const {
+        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
+            if (was.Name != is.Name || was.Named != is.Named || was.ShortName != is.ShortName) {
+                return "name";
+            }
+            const bool coloured =
+                was.NameColours != is.NameColours || was.TradeColours != is.TradeColours;
+            return coloured ? "colour" : "";
+        });
+    }
+
+    Descriptions Docks() const {
+        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
+            return was.SpaceDocks == is.SpaceDocks ? "" : "Space Docks";
+        });
+    }
+
+    Descriptions Boxes() const {
+        Descriptions found;
+        for (const auto& [caption, owned] : Technologies) {
+            const Descriptions ticked =
+                ForPlayers([&](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
+                    return was.*owned == is.*owned ? "" : caption;
+                });
+            found.insert(found.end(), ticked.begin(), ticked.end());
+        }
+        return found;
+    }
+
+    Descriptions Owners() const {
+        Descriptions found;
+        for (std::size_t planet = 0; planet < before.Planets.size(); ++planet) {
+            const PlanetRecord& is = after.Planets[planet];
+            if (before.Planets[planet] != is) {
+                found.push_back(is.Name + " to " + OwnerName(after, is.Owner));
+            }
+        }
+        return found;
+    }
+
+    Descriptions Marks() const {
+        Descriptions found;
+        for (const auto& [caption, inForce] : Laws) {
+            if (before.Laws.*inForce != after.Laws.*inForce) {
+                found.emplace_back(caption);
+            }
+        }
+        return found;
+    }
+
+    // A selection is one thing with all that its clicks lead to.
+    Descriptions Trade() const {
+        const bool independence =
+            before.Laws.EconomicIndependence != after.Laws.EconomicIndependence ||
+            before.IndepFirst != after.IndepFirst || before.IndepSecond != after.IndepSecond;
+        if (independence) {
+            return {"Economic Independance"};
+        }
+        const Descriptions agreements = Agreements();
+        if (!agreements.empty()) {
+            return agreements.size() == 1 ? agreements : Descriptions{"Trade Stop"};
+        }
+        if (before.TradeMode != after.TradeMode) {
+            return {SelectionName(after.TradeMode == TradeMode::Idle ? before.TradeMode
+                                                                     : after.TradeMode)};
+        }
+        return before.TradeStrokes == after.TradeStrokes ? Descriptions()
+                                                         : Descriptions{"Trade Stop"};
+    }
+
+    static const char* SelectionName(TradeMode mode) {
+        switch (mode) {
+        case TradeMode::RemoveFirst:
+        case TradeMode::RemovePartner:
+            return "Remove";
+        case TradeMode::IndependenceFirst:
+        case TradeMode::IndependenceSecond:
+            return "Economic Independance";
+        default:
+            return "Add";
+        }
+    }
+
+    Descriptions Agreements() const {
+        Descriptions found;
+        for (int maker = 1; maker <= MaxPlayers; ++maker) {
+            for (int partner = 1; partner <= MaxPlayers; ++partner) {
+                if (before.Cell(maker, partner) != after.Cell(maker, partner)) {
+                    found.push_back("agreement of " + NameOf(after, maker) + " and " +
+                                    NameOf(after, partner));
+                }
+            }
+        }
+        return found;
+    }
+
+    Descriptions Modifiers() const {
+        const auto modifiers = [](const Game& game) {
+            return std::array{game.GreenModifier, game.BlueModifier, game.YellowModifier,
+                              game.RedModifier};
+        };
+        return modifiers(before) == modifiers(after) ? Descriptions()
+                                                     : Descriptions{"Tech Modifiers"};
+    }
+
+    const Game& before;
+    const Game& after;
+};
+
+} // namespace
+
+bool IsChange(const Game& before, const Game& after) {
+    Game same = before;
+    for (int slot = 0; slot < OwnerSlots; ++slot) {
+        static_cast<PlayerFigures&>(same.Player(slot)) = after.Player(slot);
+    }
+    same.TradeCount = after.TradeCount;
+    same.TurnOrderRows = after.TurnOrderRows;
+    same.TradeInfo = after.TradeInfo;
+    if (same.TradeMode == TradeMode::Idle && after.TradeMode == TradeMode::Idle) {
+        same.TradeFirst = after.TradeFirst;
+    }
+    return same != after;
+}
+
+std::string DescribeChange(const Game& before, const Game& after) {
+    return Comparison(before, after).Describe();
+}
+
+} // namespace ksm

@@ -1,0 +1,85 @@
+#include "saves/game_file.h"
+#include "saves/kept_game.h"
+#include "tests/saves/sample_game.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace ksm {
+namespace {
+
+class KeptGames : public testing::Test {
+protected:
+    void SetUp() override { QDir::setCurrent(folder.path()); }
+    void TearDown() override { QDir::setCurrent(oldFolder); }
+
+    static QStringList Files() { return QDir().entryList(QDir::Files | QDir::Hidden); }
+    static GameState WithNotes(const std::string& notes) {
+        GameState game = SampleGame();
+        game.NotesText = notes;
+        return game;
+    }
+    static std::string NotesIn(const char* name) {
+        const ReadGameResult read = LoadGameFile(name);
+        return read.Game ? read.Game->NotesText : read.Problem.toStdString();
+    }
+
+    const QString oldFolder = QDir::currentPath();
+    const QTemporaryDir folder;
+};
+
+TEST_F(KeptGames, AreWrittenWhenTheGameChanged) {
+    GameState game = SampleGame();
+    KeptGame kept(game);
+    kept.Keep(game);
+    game.View.BoardPlayer = AllPlanets;
+    kept.Keep(game);
+    EXPECT_TRUE(Files().empty()) << "nothing to keep of a game that only was looked at";
+    game.Laws.FreeTrade = !game.Laws.FreeTrade;
+    kept.Keep(game);
+    EXPECT_EQ(Files(), QStringList{KeptGameName});
+    EXPECT_EQ(LoadGameFile(KeptGameName).Game->Laws, game.Laws);
+    game.NotesText = "late";
+    kept.Keep(game);
+    EXPECT_EQ(NotesIn(KeptGameName), "late");
+}
+
+TEST_F(KeptGames, TheEveningBeforeGetsAnotherName) {
+    ASSERT_EQ(SaveGameFile(KeptGameName, WithNotes("last week")), "");
+    KeptGame kept(SampleGame());
+    for (const char* notes : {"tonight", "later tonight"}) {
+        kept.Keep(WithNotes(notes));
+        EXPECT_EQ(NotesIn(KeptGameName), notes);
+        EXPECT_EQ(NotesIn(EarlierGameName), "last week");
+    }
+}
+
+TEST_F(KeptGames, LinksAreNotFollowed) {
+    ASSERT_EQ(SaveGameFile("mine.ksm", WithNotes("mine")), "");
+    ASSERT_TRUE(QFile::link("mine.ksm", KeptGameName));
+    KeptGame kept(SampleGame());
+    kept.Keep(WithNotes("tonight"));
+    EXPECT_EQ(NotesIn("mine.ksm"), "mine");
+    EXPECT_EQ(NotesIn(KeptGameName), "tonight");
+    EXPECT_FALSE(QFileInfo(KeptGameName).isSymLink());
+}
+
+TEST_F(KeptGames, AFailureIsRememberedAndTriedAgain) {
+    ASSERT_TRUE(QDir().mkdir(KeptGameName));
+    KeptGame kept(SampleGame());
+    kept.Keep(WithNotes("one"));
+    EXPECT_EQ(kept.Problem(), "This is not a file.");
+    ASSERT_TRUE(QDir().rmdir(KeptGameName));
+    kept.Keep(WithNotes("one"));
+    EXPECT_EQ(kept.Problem(), "");
+    EXPECT_EQ(NotesIn(KeptGameName), "one");
+    kept.Keep(WithNotes(std::string(LargestGameFile, 'n')));
+    EXPECT_TRUE(kept.Problem().contains("Shorten the notes"));
+    EXPECT_EQ(NotesIn(KeptGameName), "one");
+}
+
+} // namespace
+} // namespace ksm
