@@ -82,7 +82,6 @@ QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, con
     entry->setAccessibleName(meaning);
     entry->setGeometry(place);
     entry->setMaxLength(std::numeric_limits<int>::max());
-    entry->installEventFilter(this);
     return entry;
 }
 
@@ -134,15 +133,6 @@ void ColorSelectForm::ColorOK_Click() {
     close();
     // Not every window manager gives the focus back.
     parentWidget()->activateWindow();
-}
-
-// The key that opened the dialog may still be held: until it is released it does nothing here.
-bool ColorSelectForm::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        keyPressedHere = keyPressedHere || !static_cast<QKeyEvent*>(event)->isAutoRepeat();
-        return !keyPressedHere;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void ColorSelectForm::keyPressEvent(QKeyEvent* event) {

@@ -29,7 +29,6 @@ signals:
     void Confirmed();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -45,7 +44,6 @@ private:
 
     GameState& state;
     const int player;
-    bool keyPressedHere = false; ///< whether a key was pressed since the dialog opened
     QLineEdit* NameEntry = nullptr;
     QLineEdit* ShortNameEntry = nullptr;
 };

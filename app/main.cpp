@@ -5,7 +5,7 @@
 #include "app/program_folder.h"
 #include "app/single_instance.h"
 #include "controls/accessible_names.h"
-#include "controls/double_click_guard.h"
+#include "controls/input_guard.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
 #include "controls/program_icon.h"
@@ -42,7 +42,7 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName("ksm");
     ksm::ApplyLook();
     ksm::InstallAccessibleNames();
-    ksm::DoubleClickGuard guard;
+    ksm::InputGuard guard;
     application.installEventFilter(&guard);
     QApplication::setWindowIcon(ksm::ProgramIcon());
 

@@ -4,13 +4,56 @@
 #include "controls/twips.h"
 #include "model/game_state.h"
 
+#include <QMimeData>
 #include <QPlainTextEdit>
+
+#include <algorithm>
 
 namespace ksm {
 
+namespace {
+
+// To find where such a word is broken best takes the square of its length: minutes for a file
+// pasted by mistake.
+constexpr qsizetype LongestWrappedWord = 1000;
+
+bool HasEndlessWord(const QString& text) {
+    qsizetype length = 0;
+    return std::ranges::any_of(text, [&](QChar letter) {
+        length = letter.isSpace() ? 0 : length + 1;
+        return length > LongestWrappedWord;
+    });
+}
+
+} // namespace
+
+/// A text box that stays quick whatever it is filled with.
+class NotesBox : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+    void SetText(const QString& text) {
+        PrepareFor(text);
+        setPlainText(text);
+    }
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override {
+        PrepareFor(source->text());
+        QPlainTextEdit::insertFromMimeData(source);
+    }
+
+private:
+    void PrepareFor(const QString& text) {
+        if (HasEndlessWord(text)) {
+            setWordWrapMode(QTextOption::WrapAnywhere);
+        }
+    }
+};
+
 NoteForm::NoteForm(GameState& game, QWidget* owner)
     : FixedDialog("NoteForm", "Notes", {FromTwips(2415), FromTwips(3735)}, owner), state(game),
-      Aant(new QPlainTextEdit(this)) {
+      Aant(new NotesBox(this)) {
     Aant->setObjectName("Aant");
     Aant->setAccessibleName("Notes");
     Aant->setGeometry(TwipsRect(120, 195, 2175, 3375));
@@ -18,7 +61,7 @@ NoteForm::NoteForm(GameState& game, QWidget* owner)
     Aant->setTabStopDistance(24);
     new ShapeFrame("Shape1", rect(), 0, this);
     Form_Load();
-    connect(Aant, &QPlainTextEdit::textChanged, this, &NoteForm::Aant_Change);
+    connect(Aant, &NotesBox::textChanged, this, &NoteForm::Aant_Change);
 }
 
 void NoteForm::Form_Load() {
@@ -29,7 +72,7 @@ void NoteForm::Form_Load() {
 
 void NoteForm::ShowNotes() {
     if (state.NotesText != Text()) {
-        Aant->setPlainText(QString::fromStdString(state.NotesText));
+        Aant->SetText(QString::fromStdString(state.NotesText));
         Aant->moveCursor(QTextCursor::End);
     }
 }

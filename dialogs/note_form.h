@@ -3,11 +3,10 @@
 
 #include "controls/fixed_dialog.h"
 
-class QPlainTextEdit;
-
 namespace ksm {
 
 struct GameState;
+class NotesBox;
 
 /// A scratch pad for the evening. The text is the game's, not the window's: every change is kept at
 /// once, and the window can be closed and opened again.
@@ -32,7 +31,7 @@ private:
     std::string Text() const;
 
     GameState& state;
-    QPlainTextEdit* Aant;
+    NotesBox* Aant;
 };
 
 } // namespace ksm
