@@ -25,6 +25,9 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Description) {
+            return label->Explanation();
+        }
         if (kind != QAccessible::Name) {
             return {};
         }

@@ -86,6 +86,10 @@ QString CaptionLabel::ShownText() const {
     return shownText;
 }
 
+QString CaptionLabel::Explanation() const {
+    return explanation ? QString::fromStdString(explanation()) : QString();
+}
+
 void CaptionLabel::Fit() const {
     const int room = width();
     if (fittedWidth == room) {
@@ -94,7 +98,8 @@ void CaptionLabel::Fit() const {
     fittedWidth = room;
     // No letter is narrower than a pixel; what lies behind them cannot be seen.
     const QString start = caption.left(room + 1);
-    shownFont = FittingFont(font(), font().pixelSize() - 2, start, room);
+    const int smallest = smallestText != 0 ? smallestText : font().pixelSize() - 2;
+    shownFont = FittingFont(font(), smallest, start, room);
     const QFontMetricsF metrics(shownFont);
     shownText = metrics.elidedText(start, Qt::ElideRight, room);
     shownWidth = metrics.horizontalAdvance(shownText);
@@ -141,8 +146,9 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 
 bool CaptionLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        ShowPlainToolTip(*static_cast<QHelpEvent*>(event),
-                         ShownText() == caption ? QString() : caption, this);
+        QStringList lines{ShownText() == caption ? QString() : caption, Explanation()};
+        lines.removeAll(QString());
+        ShowPlainToolTip(*static_cast<QHelpEvent*>(event), lines.join('\n'), this);
         return true;
     }
     return QWidget::event(event);

@@ -5,13 +5,16 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <string>
+
 class QFontMetricsF;
 
 namespace ksm {
 
 /// Shows a caption in one line. A caption wider than the label is drawn in the condensed face, up
-/// to two pixels smaller, and with an ellipsis where that is too wide as well; the whole of it is
-/// then the tooltip.
+/// to two pixels smaller (or what `SetSmallestText` says), and with an ellipsis where that is too
+/// wide as well; the whole of it is then the tooltip.
 ///
 /// Vertical alignment: `AlignTop` and `AlignVCenter` place the letters as usual; `AlignBottom` puts
 /// the base line onto the lower edge, so that figures of any size stand on one line.
@@ -29,6 +32,8 @@ public:
     QString ShownText() const;
 
     void SetAlignment(Qt::Alignment edges);
+    /// Lets a caption shrink down to this size before less than all of it is drawn.
+    void SetSmallestText(int pixels) { smallestText = pixels; }
     void SetColours(const ColourPair& colours);
     void SetColours(const QColor& back, const QColor& text);
     void SetBackColour(const QColor& back);
@@ -37,6 +42,11 @@ public:
     /// What assistive technology says before the caption: "Influence, Player 3".
     void SetHeading(const QString& text);
     const QString& Heading() const { return heading; }
+
+    /// What the tooltip and assistive technology say beside the caption; it is asked for when
+    /// somebody wants to know. UTF-8.
+    void SetExplanation(std::function<std::string()> explain) { explanation = std::move(explain); }
+    QString Explanation() const;
 
     /// Lets the mouse, and Space or Return after Tab, click the label.
     void MakeClickable();
@@ -62,7 +72,9 @@ private:
 
     QString caption;
     QString heading;
+    std::function<std::string()> explanation;
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    int smallestText = 0;
     bool clickable = false;
     bool pressed = false;
     // What fits the label at this width; found when first needed after a change.

@@ -43,7 +43,12 @@ QFont Font(const QString& family, int pixels, QFont::Weight weight) {
 // The original faces first, then the substitutes with the same widths.
 
 const QString& Sans() {
-    static const QString family = Installed({"MS Sans Serif", "Arial", "Liberation Sans"});
+    static const QString family = Installed({"MS Sans Serif", "Liberation Sans"});
+    return family;
+}
+
+const QString& Arial() {
+    static const QString family = Installed({"Arial", "Liberation Sans"});
     return family;
 }
 
@@ -76,6 +81,10 @@ QFont PlainFont(int pixels) {
 
 QFont BoldFont(int pixels) {
     return Font(Sans(), pixels, QFont::Bold);
+}
+
+QFont ArialFont(QFont::Weight weight) {
+    return Font(Arial(), SmallText, weight);
 }
 
 QFont NarrowFont(int pixels) {

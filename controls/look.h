@@ -19,9 +19,11 @@ inline constexpr int FigureText = 14;
 inline constexpr int MediumText = 16;
 inline constexpr int LargeText = 21;
 
-/// The face of captions and figures.
+/// The face of most captions and figures.
 QFont PlainFont(int pixels = SmallText);
 QFont BoldFont(int pixels = SmallText);
+/// The face of the planets.
+QFont ArialFont(QFont::Weight weight = QFont::Normal);
 /// A condensed face, for texts that are wider than their place.
 QFont NarrowFont(int pixels = SmallText);
 /// The handwritten face of the dice roller.

@@ -10,12 +10,19 @@ namespace ksm {
 
 namespace {
 
+// What is still read from across the table, and what is better than nothing.
+constexpr int SmallestReadable = 9;
 constexpr int SmallestText = 7;
 constexpr int Wrap = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
-bool Fits(const QString& lines, const QFont& font, const QRect& place) {
-    const QRect needed = QFontMetrics(font).boundingRect(place, Wrap, lines);
-    return needed.width() <= place.width() && needed.height() <= place.height();
+/// The text with names of more letters than that ended by an ellipsis.
+QString WithShortNames(QString text, const QStringList& names, qsizetype letters) {
+    for (const QString& name : names) {
+        if (name.size() > letters) {
+            text.replace(name, name.left(letters - 1).trimmed() + QChar(0x2026));
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -26,41 +33,58 @@ MessageLabel::MessageLabel(const QString& objectName, const QRect& place, QWidge
     setGeometry(place);
 }
 
-void MessageLabel::SetCaption(const QString& text) {
+void MessageLabel::SetCaption(const QString& text, const QStringList& names) {
     if (text != caption) {
         caption = text;
         setAccessibleName(caption.simplified());
+        Fit(names);
         update();
     }
 }
 
-// The painter knows LF only, and no label has room for more letters.
-QString MessageLabel::Lines() const {
-    constexpr qsizetype MostLetters = 400;
-    return caption.left(MostLetters).remove('\r');
+void MessageLabel::Fit(const QStringList& names) {
+    // The painter knows LF only.
+    const QString lines = QString(caption).remove('\r');
+    for (const qsizetype letters : {caption.size(), qsizetype{20}, qsizetype{12}, qsizetype{8}}) {
+        if (TakeIfItFits(WithShortNames(lines, names, letters), SmallestReadable)) {
+            return;
+        }
+    }
+    // No label has room for more letters.
+    constexpr qsizetype MostLetters = 200;
+    TakeIfItFits(lines.left(MostLetters), SmallestText);
 }
 
-QFont MessageLabel::ShownFont() const {
-    const QString lines = Lines();
-    return FittingFont(font(), SmallestText,
-                       [&](const QFont& tried) { return Fits(lines, tried, rect()); });
+bool MessageLabel::TakeIfItFits(const QString& lines, int smallest) {
+    constexpr qsizetype MostLetters = 400; // more never fit
+    if (lines.size() > MostLetters) {
+        return false;
+    }
+    shownText = lines;
+    shownFont =
+        FittingFont(font(), smallest, [&](const QFont& tried) { return Fits(lines, tried); });
+    isWhole = Fits(lines, shownFont);
+    return isWhole;
+}
+
+bool MessageLabel::Fits(const QString& lines, const QFont& tried) const {
+    const QRect needed = QFontMetrics(tried).boundingRect(rect(), Wrap, lines);
+    return needed.width() <= width() && needed.height() <= height();
 }
 
 void MessageLabel::paintEvent(QPaintEvent*) {
-    const QFont fitting = ShownFont();
-    const QString lines = Lines();
     QPainter painter(this);
-    painter.setFont(fitting);
+    painter.setFont(shownFont);
     painter.setPen(palette().color(QPalette::WindowText));
-    // A name without blanks that is longer than a line is broken where the line ends.
-    const int flags = Fits(lines, fitting, rect()) ? Wrap : Wrap | Qt::TextWrapAnywhere;
-    painter.drawText(rect(), flags, lines);
+    // A word that is longer than a line is broken where the line ends.
+    const int flags = isWhole ? Wrap : Wrap | Qt::TextWrapAnywhere;
+    painter.drawText(rect(), flags, shownText);
 }
 
 bool MessageLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        ShowPlainToolTip(*static_cast<QHelpEvent*>(event),
-                         ShownFont() == font() ? QString() : caption, this);
+        const bool whole = shownFont == font();
+        ShowPlainToolTip(*static_cast<QHelpEvent*>(event), whole ? QString() : caption, this);
         return true;
     }
     return QWidget::event(event);

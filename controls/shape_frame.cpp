@@ -1,5 +1,7 @@
 #include "controls/shape_frame.h"
 
+#include "controls/even_drawing.h"
+
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -35,7 +37,8 @@ LineControl::LineControl(const QString& objectName, const QRect& place, QWidget*
 }
 
 void LineControl::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), Qt::black);
+    QPainter painter(this);
+    DrawEvenLine(painter, rect().topLeft(), rect().bottomRight(), 1, Qt::black);
 }
 
 } // namespace ksm

@@ -1,5 +1,6 @@
 #include "controls/spin_bar.h"
 
+#include "controls/even_drawing.h"
 #include "controls/input.h"
 
 #include <QApplication>
@@ -115,7 +116,7 @@ void SpinBar::PaintHalf(QPainter& painter, SliderAction action) const {
 
     const bool open = isEnabled() && value() != (up ? minimum() : maximum());
     const double tip = up ? -2 : 2;
-    const QPointF centre = half.center();
+    const QPointF centre = half.center() + OnDevicePixel(painter, {});
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(open ? QPalette::Active : QPalette::Disabled, QPalette::Text));

@@ -1,6 +1,7 @@
 #include "dialogs/tech_form.h"
 
 #include "controls/element_name.h"
+#include "controls/even_drawing.h"
 #include "controls/look.h"
 #include "controls/qt_values.h"
 
@@ -75,17 +76,19 @@ void MakeLegend(QWidget* parent) {
 
 void DrawConnectors(QPainter& painter, const std::vector<Connector>& connectors) {
     for (const Connector& connector : connectors) {
-        // Square ends fill the corners where two connectors meet.
-        painter.setPen(QPen(ToQColor(connector.Ink), ConnectorWidth, Qt::SolidLine, Qt::SquareCap));
-        painter.drawLine(ToQPoint(connector.From), ToQPoint(connector.To));
+        DrawEvenLine(painter, ToQPoint(connector.From), ToQPoint(connector.To), ConnectorWidth,
+                     ToQColor(connector.Ink));
     }
 }
 
 void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
+    painter.setRenderHint(QPainter::Antialiasing);
     for (const StrokePair& pair : pairs) {
         painter.setPen(QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::RoundCap));
+        const QPointF tip = ToQPoint(pair.Line2.From);
+        const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
         for (const ChartStroke& stroke : {pair.Line2, pair.Line3}) {
-            painter.drawLine(ToQPoint(stroke.From), ToQPoint(stroke.To));
+            painter.drawLine(ToQPoint(stroke.From) + even, ToQPoint(stroke.To) + even);
         }
     }
 }
@@ -141,9 +144,6 @@ void TechForm::mouseReleaseEvent(QMouseEvent* event) {
 
 void TechForm::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    // A chart's point is the middle of its pixel, which makes straight lines crisp.
-    painter.translate(0.5, 0.5);
     for (const auto* connectors : {&chart.Line6, &chart.Line5, &chart.Line4, &chart.Line1}) {
         DrawConnectors(painter, *connectors);
     }

@@ -13,14 +13,39 @@
 
 #include <QCheckBox>
 
+#include <optional>
+
 namespace ksm {
 
 namespace {
 
-constexpr ColourPair OnGreen{colour::DarkGreen, colour::White};
-constexpr ColourPair OnBlue{colour::DarkBlue, colour::White};
-constexpr ColourPair OnRed{colour::DarkRed, colour::White};
-constexpr ColourPair OnYellow{colour::DarkYellow, colour::Black};
+/// Figures of five digits fit in this face.
+constexpr int SmallestFigure = 8;
+
+struct FigureDesign {
+    const char* Name = "";
+    const char* Heading = "";
+    int Top = 0;
+    int Height = 17;
+    bool Bold = false;
+    std::optional<ColourPair> Colours{}; ///< of the costs
+};
+
+// In the order of `Figure`.
+constexpr std::array<FigureDesign, FigureCount> FigureDesigns{{
+    {"PlayerResources", "Resources", 225},
+    {"PlayerInfluence", "Influence", 241},
+    {"PlayerPlanets", "Planets", 257},
+    {"PlayerCredits", "Receive Credits", 273, 17, true},
+    {"PlayerGreenTech", "Green technology cost", 376, 16, true,
+     ColourPair{colour::DarkGreen, colour::White}},
+    {"PlayerBlueTech", "Blue technology cost", 392, 16, true,
+     ColourPair{colour::DarkBlue, colour::White}},
+    {"PlayerRedTech", "Red technology cost", 408, 16, true,
+     ColourPair{colour::DarkRed, colour::White}},
+    {"PlayerYellowTech", "Yellow technology cost", 424, 16, true,
+     ColourPair{colour::DarkYellow, colour::Black}},
+}};
 
 void MoveTo(int left, std::initializer_list<QWidget*> controls) {
     for (QWidget* control : controls) {
@@ -34,6 +59,7 @@ PlayerColumn::PlayerColumn(Game& shown, int number, const QStringList& races, QW
     : QObject(mainWindow), game(shown), player(number), window(mainWindow) {
     MakeNames(races);
     MakeFigures();
+    MakeDocks();
     MakeTechnologies();
 }
 
@@ -45,22 +71,6 @@ CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, con
     auto* label = new CaptionLabel(ElementName(name, player), place, window);
     label->SetAlignment(Qt::AlignCenter);
     label->SetHeading(Heading(heading));
-    return label;
-}
-
-CaptionLabel* PlayerColumn::MakeFigure(const char* name, const char* heading, int top) {
-    CaptionLabel* label = MakeLabel(name, heading, {0, top, 25, 17});
-    label->setFont(PlainFont(FigureText));
-    // On one line with the row's heading, which stands a little lower.
-    label->SetAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    return label;
-}
-
-CaptionLabel* PlayerColumn::MakeCost(const char* name, const char* heading, int top,
-                                     const ColourPair& colours) {
-    CaptionLabel* label = MakeLabel(name, heading, {0, top, 25, 16});
-    label->setFont(BoldFont(FigureText));
-    label->SetColours(colours);
     return label;
 }
 
@@ -88,13 +98,29 @@ void PlayerColumn::MakeNames(const QStringList& races) {
 }
 
 void PlayerColumn::MakeFigures() {
-    PlayerResources = MakeFigure("PlayerResources", "Resources", 225);
-    PlayerInfluence = MakeFigure("PlayerInfluence", "Influence", 241);
-    PlayerPlanets = MakeFigure("PlayerPlanets", "Planets", 257);
-    PlayerCredits = MakeFigure("PlayerCredits", "Receive Credits", 273);
-    PlayerCredits->setFont(BoldFont(FigureText));
-    SpaceDocks = MakeFigure("SpaceDocks", "Space Docks", 295);
-    SpaceDocks->resize(17, 17);
+    for (std::size_t index = 0; index < Figures.size(); ++index) {
+        const FigureDesign& design = FigureDesigns.at(index);
+        const auto figure = static_cast<Figure>(index);
+        CaptionLabel* label =
+            MakeLabel(design.Name, design.Heading, {0, design.Top, 25, design.Height});
+        label->setFont(design.Bold ? BoldFont(FigureText) : PlainFont(FigureText));
+        label->SetSmallestText(SmallestFigure);
+        label->SetExplanation([this, figure] { return ExplanationText(game, player, figure); });
+        if (design.Colours) {
+            label->SetColours(*design.Colours);
+        } else {
+            // On one line with the row's heading, which stands a little lower.
+            label->SetAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+        }
+        Figures.at(index) = label;
+    }
+}
+
+void PlayerColumn::MakeDocks() {
+    SpaceDocks = MakeLabel("SpaceDocks", "Space Docks", {0, 295, 17, 17});
+    SpaceDocks->setFont(PlainFont(FigureText));
+    SpaceDocks->SetAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    SpaceDocks->SetExplanation([this] { return DockText(game, player); });
     DockScroll = new SpinBar(ElementName("DockScroll", player), {0, 290, 17, 25}, window);
     DockScroll->SetCount({.AtZero = MaxSpaceDocks, .Least = 0, .Most = MaxSpaceDocks});
     DockScroll->SetRange(0, MaxSpaceDocks, MaxSpaceDocks - Record().SpaceDocks);
@@ -109,10 +135,6 @@ void PlayerColumn::MakeTechnologies() {
     connect(Enviro, &QCheckBox::toggled, this, &PlayerColumn::Enviro_Click);
     connect(PellamTools, &QCheckBox::toggled, this, &PlayerColumn::PellamTools_Click);
     connect(Micro, &QCheckBox::toggled, this, &PlayerColumn::Micro_Click);
-    PlayerGreenTech = MakeCost("PlayerGreenTech", "Green technology cost", 376, OnGreen);
-    PlayerBlueTech = MakeCost("PlayerBlueTech", "Blue technology cost", 392, OnBlue);
-    PlayerRedTech = MakeCost("PlayerRedTech", "Red technology cost", 408, OnRed);
-    PlayerYellowTech = MakeCost("PlayerYellowTech", "Yellow technology cost", 424, OnYellow);
 }
 
 void PlayerColumn::Place() {
@@ -121,8 +143,9 @@ void PlayerColumn::Place() {
     RaceLabel->setGeometry(place.Left, RaceLabel->y(), place.NameWidth, RaceLabel->height());
     Race->setGeometry(place.Left + 1, Race->y(), place.RaceWidth, Race->height());
     MoveTo(place.Left, {StatLine});
-    MoveTo(place.FigureLeft, {PlayerResources, PlayerInfluence, PlayerPlanets, PlayerCredits,
-                              PlayerGreenTech, PlayerBlueTech, PlayerRedTech, PlayerYellowTech});
+    for (CaptionLabel* figure : Figures) {
+        MoveTo(place.FigureLeft, {figure});
+    }
     MoveTo(place.FigureLeft + 3, {SpaceDocks});
     MoveTo(place.FigureLeft + 19, {DockScroll});
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});
@@ -130,10 +153,11 @@ void PlayerColumn::Place() {
 
 void PlayerColumn::SetVisible(bool visible) {
     for (QWidget* control : std::initializer_list<QWidget*>{
-             PlayerName, StatLine, RaceLabel, PlayerResources, PlayerInfluence, PlayerPlanets,
-             PlayerCredits, SpaceDocks, DockScroll, Enviro, PellamTools, Micro, PlayerGreenTech,
-             PlayerBlueTech, PlayerRedTech, PlayerYellowTech}) {
+             PlayerName, StatLine, RaceLabel, SpaceDocks, DockScroll, Enviro, PellamTools, Micro}) {
         control->setVisible(visible);
+    }
+    for (CaptionLabel* figure : Figures) {
+        figure->setVisible(visible);
     }
     ShowPhase();
 }
@@ -150,14 +174,10 @@ void PlayerColumn::ShowPlayer() {
 }
 
 void PlayerColumn::ShowValues() {
-    PlayerResources->SetCaption(QString::number(Record().Resources));
-    PlayerInfluence->SetCaption(QString::number(Record().Influence));
-    PlayerPlanets->SetCaption(QString::number(Record().PlanetCount));
-    PlayerCredits->SetCaption(QString::number(Record().Credits));
-    PlayerGreenTech->SetCaption(QString::number(Record().GreenTech));
-    PlayerBlueTech->SetCaption(QString::number(Record().BlueTech));
-    PlayerRedTech->SetCaption(QString::number(Record().RedTech));
-    PlayerYellowTech->SetCaption(QString::number(Record().YellowTech));
+    for (std::size_t index = 0; index < Figures.size(); ++index) {
+        const int value = ValueOf(game, player, static_cast<Figure>(index));
+        Figures.at(index)->SetCaption(QString::number(value));
+    }
     SpaceDocks->SetCaption(QString::number(Record().SpaceDocks));
     DockScroll->setValue(MaxSpaceDocks - Record().SpaceDocks);
     ShowTechBoxes();

@@ -1,6 +1,7 @@
 // One player's column of the player table.
 #pragma once
 
+#include "economy/explanation.h"
 #include "model/game_state.h"
 
 #include <QObject>
@@ -49,11 +50,9 @@ signals:
 private:
     void MakeNames(const QStringList& races);
     void MakeFigures();
+    void MakeDocks();
     void MakeTechnologies();
     CaptionLabel* MakeLabel(const char* name, const char* heading, const QRect& place);
-    CaptionLabel* MakeFigure(const char* name, const char* heading, int top);
-    CaptionLabel* MakeCost(const char* name, const char* heading, int top,
-                           const ColourPair& colours);
     QCheckBox* MakeBox(const char* name, const char* heading, int top);
     QString Heading(const char* row) const;
 
@@ -75,19 +74,12 @@ private:
     LineControl* StatLine = nullptr;
     CaptionLabel* RaceLabel = nullptr;
     ChoiceBox* Race = nullptr;
-    CaptionLabel* PlayerResources = nullptr;
-    CaptionLabel* PlayerInfluence = nullptr;
-    CaptionLabel* PlayerPlanets = nullptr;
-    CaptionLabel* PlayerCredits = nullptr;
+    std::array<CaptionLabel*, FigureCount> Figures{}; ///< in the order of `Figure`
     CaptionLabel* SpaceDocks = nullptr;
     SpinBar* DockScroll = nullptr;
     QCheckBox* Enviro = nullptr;
     QCheckBox* PellamTools = nullptr;
     QCheckBox* Micro = nullptr;
-    CaptionLabel* PlayerGreenTech = nullptr;
-    CaptionLabel* PlayerBlueTech = nullptr;
-    CaptionLabel* PlayerRedTech = nullptr;
-    CaptionLabel* PlayerYellowTech = nullptr;
 };
 
 } // namespace ksm

@@ -6,6 +6,8 @@
 #include "controls/twips.h"
 #include "model/bounds.h"
 
+#include <QPixmap>
+
 namespace ksm {
 
 namespace {
@@ -32,6 +34,10 @@ QString Signed(int modifier) {
 
 TechModForm::TechModForm(QWidget* owner)
     : FixedDialog("TechModForm", "Tech cost modifiers", {FromTwips(3480), FromTwips(1500)}, owner) {
+    // A window without an icon has the program's, if it is not given an empty one.
+    QPixmap nothing(16, 16);
+    nothing.fill(Qt::transparent);
+    setWindowIcon(nothing);
     setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
     for (int index = 0; index < 4; ++index) {

@@ -3,6 +3,7 @@
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
 #include "controls/look.h"
+#include "economy/explanation.h"
 
 namespace ksm {
 
@@ -65,6 +66,12 @@ TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
     row.PolPlay->SetHeading(tr("Place %1").arg(number));
     row.PRes->SetHeading(tr("Resources, place %1").arg(number));
     row.PInf->SetHeading(tr("Influence, place %1").arg(number));
+    for (CaptionLabel* label : {row.PolPlay, row.PRes, row.PInf}) {
+        label->SetExplanation([this, number] { return RankText(game, number); });
+    }
+    for (CaptionLabel* figure : {row.PRes, row.PInf}) {
+        figure->SetSmallestText(8);
+    }
     return row;
 }
 

@@ -11,15 +11,6 @@ namespace {
 
 using Descriptions = std::vector<std::string>;
 
-std::string NameOf(const Game& game, int player) {
-    const std::string& name = game.Player(player).Name;
-    return name.empty() ? "Player " + std::to_string(player) : name;
-}
-
-std::string OwnerName(const Game& game, int owner) {
-    return owner == NeutralOwner ? "Neutral" : NameOf(game, owner);
-}
-
 /// A technology of a player, by the caption of its row.
 struct Technology {
     const char* Caption;
@@ -67,7 +58,7 @@ private:
         for (int player = 1; player <= MaxPlayers; ++player) {
             const std::string what = differ(before.Player(player), after.Player(player));
             if (!what.empty()) {
-                found.push_back(what + ", " + NameOf(after, player));
+                found.push_back(what + ", " + SpokenName(after, player));
             }
         }
         return found;
@@ -178,8 +169,8 @@ private:
         for (int maker = 1; maker <= MaxPlayers; ++maker) {
             for (int partner = 1; partner <= MaxPlayers; ++partner) {
                 if (before.Cell(maker, partner) != after.Cell(maker, partner)) {
-                    found.push_back("agreement of " + NameOf(after, maker) + " and " +
-                                    NameOf(after, partner));
+                    found.push_back("agreement of " + SpokenName(after, maker) + " and " +
+                                    SpokenName(after, partner));
                 }
             }
         }

@@ -52,6 +52,15 @@ std::string OwnerCaption(const Game& game, int player) {
     return record.Named ? record.Name : "Player " + std::to_string(player);
 }
 
+std::string SpokenName(const Game& game, int player) {
+    const std::string& name = game.Player(player).Name;
+    return name.empty() ? "Player " + std::to_string(player) : name;
+}
+
+std::string OwnerName(const Game& game, int owner) {
+    return owner == NeutralOwner ? "Neutral" : SpokenName(game, owner);
+}
+
 void SetName(Game& game, int player, const std::string& name, const std::string& shortName) {
     PlayerRecord& record = game.Player(player);
     record.Name = name;

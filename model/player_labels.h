@@ -17,6 +17,11 @@ std::string PlayerCaption(const Game& game, int player);
 /// Caption of the player's owner label on the planet board.
 std::string OwnerCaption(const Game& game, int player);
 
+/// What the player is called in a sentence: "Player 3" without a name.
+std::string SpokenName(const Game& game, int player);
+/// What an owner 0..10 is called: "Neutral" for the pool.
+std::string OwnerName(const Game& game, int owner);
+
 /// Gives the player a name, which can be empty, and the short name that comes with it. UTF-8.
 void SetName(Game& game, int player, const std::string& name, const std::string& shortName);
 /// Gives the same colours to both labels of the player.

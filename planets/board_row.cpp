@@ -4,6 +4,7 @@
 #include "controls/fitting_font.h"
 #include "controls/look.h"
 #include "controls/qt_values.h"
+#include "planets/planet_text.h"
 
 #include <QtMath>
 
@@ -38,31 +39,33 @@ QColor TextColour(Specialty specialty) {
 
 } // namespace
 
-BoardRow::BoardRow(int row, QWidget* board) : number(row + 1) {
+BoardRow::BoardRow(int row, const Game& shown, QWidget* board) : game(shown), number(row + 1) {
     const int top = RowTop + RowPitch * row;
     InvasionPlanet = new PlanetLabel(ElementName("InvasionPlanet", row), {NameLeft, top},
                                      FigureLeft - NameLeft, board);
     InvasionResInf = new CaptionLabel(ElementName("InvasionResInf", row),
                                       {FigureLeft, top, FigureRight - FigureLeft, RowPitch}, board);
     InvasionResInf->SetAlignment(Qt::AlignCenter);
+    for (CaptionLabel* label : {static_cast<CaptionLabel*>(InvasionPlanet), InvasionResInf}) {
+        label->setFont(ArialFont());
+    }
+    InvasionPlanet->SetExplanation([this] { return OwnerText(game, tag); });
+    InvasionResInf->SetHeading(QString("Resources and influence, row %1").arg(number));
+    InvasionResInf->SetExplanation([this] { return PlanetFiguresText(game, tag); });
     SetNote({});
 }
 
-void BoardRow::Show(int slot, const PlanetRecord& planet) {
-    SetTag(slot);
-    InvasionPlanet->SetPlanet(QString::fromStdString(planet.Name));
-    ShowFigures(QString("%1 %2").arg(planet.Resources).arg(planet.Influence), planet.Specialty);
-}
-
-void BoardRow::ShowEmpty() {
-    SetTag(NoPlanet);
-    InvasionPlanet->SetPlanet({});
-    ShowFigures({}, Specialty::None);
-}
-
-void BoardRow::SetTag(int slot) {
+void BoardRow::Show(int slot) {
     tag = slot;
     InvasionPlanet->setProperty("Tag", QString::number(slot));
+    if (slot == NoPlanet) {
+        InvasionPlanet->SetPlanet({});
+        ShowFigures({}, Specialty::None);
+        return;
+    }
+    const PlanetRecord& planet = game.Planet(slot);
+    InvasionPlanet->SetPlanet(QString::fromStdString(planet.Name));
+    ShowFigures(QString("%1 %2").arg(planet.Resources).arg(planet.Influence), planet.Specialty);
 }
 
 bool BoardRow::Holds(const QWidget* control) const {
@@ -75,10 +78,6 @@ void BoardRow::ShowFigures(const QString& figures, Specialty specialty) {
         FitFigures();
     }
     InvasionResInf->SetColours(SpecialtyColour(specialty), TextColour(specialty));
-    // Only the colour tells the specialty.
-    constexpr std::array notes{"", ", blue specialty", ", green specialty", ", red specialty"};
-    InvasionResInf->SetHeading(QString("Resources and influence, row %1").arg(number) +
-                               QLatin1StringView(notes.at(static_cast<std::size_t>(specialty))));
 }
 
 void BoardRow::FitFigures() {

@@ -1,7 +1,7 @@
 // One row of the planet board.
 #pragma once
 
-#include "model/planet_record.h"
+#include "model/game_state.h"
 #include "planets/planet_label.h"
 
 namespace ksm {
@@ -10,13 +10,12 @@ namespace ksm {
 class BoardRow {
 public:
     /// Row 0..11 of the board.
-    BoardRow(int row, QWidget* board);
+    BoardRow(int row, const Game& shown, QWidget* board);
 
     PlanetLabel& Name() { return *InvasionPlanet; }
 
-    /// Shows the planet of this slot of the planet table.
-    void Show(int slot, const PlanetRecord& planet);
-    void ShowEmpty();
+    /// Shows the planet of this slot of the planet table, or nothing for `NoPlanet`.
+    void Show(int slot);
     /// The slot of the planet shown, or `NoPlanet`.
     int Tag() const { return tag; }
     /// Whether the control is one of its two labels.
@@ -26,10 +25,10 @@ public:
     void SetNote(const QString& note);
 
 private:
-    void SetTag(int slot);
     void ShowFigures(const QString& figures, Specialty specialty);
     void FitFigures();
 
+    const Game& game;
     int number; ///< from 1
     int tag = NoPlanet;
     PlanetLabel* InvasionPlanet;

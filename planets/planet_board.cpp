@@ -51,7 +51,7 @@ void PlanetBoard::MakeOwners() {
                 [this, owner] { InvasionPlayer_Click(owner); });
         InvasionPlayer[owner] = label;
     };
-    make(AllPlanets, 1, BoldFont());
+    make(AllPlanets, 1, ArialFont(QFont::Bold));
     InvasionPlayer[AllPlanets]->SetCaption("All planets");
     make(NeutralOwner, 16, BoldFont());
     InvasionPlayer[NeutralOwner]->SetCaption("Neutral");
@@ -64,7 +64,7 @@ void PlanetBoard::MakeOwners() {
 void PlanetBoard::MakeRows() {
     rows.reserve(BoardRowCount);
     for (int row = 0; row < BoardRowCount; ++row) {
-        const PlanetLabel* name = &rows.emplace_back(row, this).Name();
+        const PlanetLabel* name = &rows.emplace_back(row, state, this).Name();
         connect(name, &PlanetLabel::Pressed, this, [this, row] { Take(row); });
         connect(name, &PlanetLabel::DraggedTo, this, &PlanetBoard::DragTo);
         connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
@@ -92,11 +92,7 @@ void PlanetBoard::ShowList() {
     PlanetScroller->setMaximum(maximum);
     const BoardRows listed = ListBoard(state);
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (listed[row] == NoPlanet) {
-            rows[row].ShowEmpty();
-        } else {
-            rows[row].Show(listed[row], state.Planet(listed[row]));
-        }
+        rows[row].Show(listed[row]);
     }
 }
 

@@ -2,11 +2,13 @@
 
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
+#include "controls/even_drawing.h"
 #include "controls/message_label.h"
 #include "controls/qt_values.h"
 #include "controls/shape_frame.h"
 #include "trade/ring.h"
 #include "trade/trade_diagram.h"
+#include "trade/trade_text.h"
 
 #include <QPainter>
 #include <QPushButton>
@@ -18,7 +20,7 @@ namespace {
 constexpr QRect Panel{338, 0, 300, 180};
 constexpr QSize LabelSize{30, 18};
 // A line of any player's colour can be told from it, and black text reads well on it.
-constexpr QColor Background{0x8F, 0x9D, 0xB5};
+constexpr QColor Background{0xB8, 0xC0, 0xCA};
 
 } // namespace
 
@@ -30,8 +32,9 @@ TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(sho
     setPalette(painted);
     setAutoFillBackground(true);
     new ShapeFrame("TradeShape", rect(), 0, this);
-    MakeLabels();
+    // The order of the Tab key.
     MakeButtons();
+    MakeLabels();
 }
 
 void TradePanel::MakeLabels() {
@@ -39,6 +42,8 @@ void TradePanel::MakeLabels() {
         auto* label =
             new CaptionLabel(ElementName("TradePlayer", player), {QPoint(), LabelSize}, this);
         label->SetAlignment(Qt::AlignCenter);
+        label->SetHeading(QString("Trade, Player %1").arg(player));
+        label->SetExplanation([this, player] { return TradeText(game, player); });
         label->MakeClickable();
         connect(label, &CaptionLabel::Clicked, this, [this, player] { TradePlayer_Click(player); });
         TradePlayer[player] = label;
@@ -98,24 +103,15 @@ void TradePanel::SetLabelVisible(int player, bool visible) {
 }
 
 void TradePanel::ShowDiagram() {
-    NameLabels();
     update();
 }
 
 void TradePanel::ShowInfo() {
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
-}
-
-void TradePanel::NameLabels() {
+    QStringList names;
     for (int player = 1; player <= MaxPlayers; ++player) {
-        QString heading = QString("Trade, Player %1").arg(player);
-        for (int partner = 1; partner <= MaxPlayers; ++partner) {
-            if (HaveAgreement(game, player, partner)) {
-                heading += QString(", agreement with Player %1").arg(partner);
-            }
-        }
-        TradePlayer[player]->SetHeading(heading);
+        names << QString::fromStdString(game.Player(player).Name);
     }
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo), names);
 }
 
 void TradePanel::ShowPlayer(int player) {
@@ -130,10 +126,9 @@ void TradePanel::ShowValues() {
 
 void TradePanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     for (const Stroke& stroke : game.TradeStrokes) {
-        painter.setPen(QPen(ToQColor(stroke.Colour), stroke.Width, Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(ToQPoint(stroke.From), ToQPoint(stroke.To));
+        DrawEvenLine(painter, ToQPoint(stroke.From), ToQPoint(stroke.To), stroke.Width,
+                     ToQColor(stroke.Colour));
     }
 }
 

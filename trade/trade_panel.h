@@ -27,7 +27,7 @@ public:
     void PlaceLabel(int player);
     void SetLabelVisible(int player, bool visible);
 
-    /// Shows the lines, and who trades with whom.
+    /// Shows the lines as they were drawn.
     void ShowDiagram();
     /// Shows the prompt or the result of a selection.
     void ShowInfo();
@@ -52,8 +52,6 @@ private:
     void AddTAbutton_Click();
     void RemoveTAButton_Click();
     void TradePlayer_Click(int player);
-    /// Tells assistive technology what the lines tell the eye.
-    void NameLabels();
 
     Game& game;
     PerPlayer<CaptionLabel*> TradePlayer;
