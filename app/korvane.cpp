@@ -2,6 +2,7 @@
 
 #include "app/main_menu.h"
 #include "app/setup_panel.h"
+#include "controls/focus_group.h"
 #include "controls/message_box.h"
 #include "dialogs/note_form.h"
 #include "economy/game_setup.h"
@@ -14,7 +15,9 @@
 #include "trade/trade_laws.h"
 #include "trade/trade_panel.h"
 
+#include <QAbstractButton>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QScreen>
 
@@ -215,6 +218,22 @@ void Korvane::MenuLabour_Click() {
     UpdateValues();
     TurnOrder();
     emit Changed();
+}
+
+bool Korvane::focusNextPrevChild(bool next) {
+    FocusGroup::MoveOn(*this, next);
+    return true;
+}
+
+// Return does what Space does; Qt has it so in dialogs only.
+void Korvane::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (button && isReturn && !event->isAutoRepeat()) {
+        button->click();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void Korvane::CentreOnScreen() {

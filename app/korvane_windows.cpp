@@ -2,6 +2,7 @@
 
 #include "app/color_select_form.h"
 #include "app/korvane.h"
+#include "app/main_menu.h"
 #include "controls/message_box.h"
 #include "controls/twips.h"
 #include "dialogs/about_form.h"
@@ -27,10 +28,11 @@ constexpr std::array ChildWindows{"DiceForm", "TechForm", "TechForm2", "AboutFor
 
 // Shows the one window of this kind, made when it is not open yet.
 template<typename Form, typename... Arguments>
-Form* Open(QWidget* owner, Arguments&... arguments) {
+Form* Open(QWidget* owner, MainMenu* menu, Arguments&... arguments) {
     auto* form = owner->findChild<Form*>();
     if (!form) {
         form = new Form(arguments..., owner);
+        menu->WorkIn(form);
     }
     form->show();
     form->raise();
@@ -63,12 +65,12 @@ void Korvane::SGame_Click() {
 }
 
 void Korvane::Notes_Click() {
-    auto* form = Open<NoteForm>(this, state);
+    auto* form = Open<NoteForm>(this, menu, state);
     connect(form, &NoteForm::Changed, this, &Korvane::Changed, Qt::UniqueConnection);
 }
 
 void Korvane::Dice_Click() {
-    Open<DiceForm>(this);
+    Open<DiceForm>(this, menu);
 }
 
 void Korvane::Stech_Click() {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QShortcut>
 
 namespace ksm {
 
@@ -11,6 +12,13 @@ QAction* MakeItem(QMenu* menu, const char* name, const char* caption, const char
     QAction* item = menu->addAction(caption);
     item->setObjectName(name);
     item->setShortcut(QKeySequence(shortcut));
+    return item;
+}
+
+/// An item whose key works in windows beside the main window too.
+QAction* MakeEverywhere(QMenu* menu, const char* name, const char* caption, const char* shortcut) {
+    QAction* item = MakeItem(menu, name, caption, shortcut);
+    item->setShortcutContext(Qt::ApplicationShortcut);
     return item;
 }
 
@@ -43,8 +51,8 @@ void MainMenu::MakeFileMenu() {
     QMenu* menu = MakeMenu("File", "&File");
     MakeItem(menu, "new", "New Game")->setEnabled(false);
     MakeSeparator(menu, "x");
-    LGame = MakeItem(menu, "LGame", "Load Game", "F1");
-    SGame = MakeItem(menu, "SGame", "Save Game", "F2");
+    LGame = MakeEverywhere(menu, "LGame", "Load Game", "F1");
+    SGame = MakeEverywhere(menu, "SGame", "Save Game", "F2");
     MakeSeparator(menu, "bar1");
     MakeItem(menu, "LoadPlanButton", "Load Planet List")->setEnabled(false);
     MakeSeparator(menu, "bar2");
@@ -62,8 +70,8 @@ void MainMenu::MakeOptionsMenu() {
 
 void MainMenu::MakeTechMenu() {
     QMenu* menu = MakeMenu("Techs", "Tech");
-    Stech = MakeItem(menu, "Stech", "Standard", "F5");
-    HTech = MakeItem(menu, "HTech", "Corrin's End", "F6");
+    Stech = MakeEverywhere(menu, "Stech", "Standard", "F5");
+    HTech = MakeEverywhere(menu, "HTech", "Corrin's End", "F6");
     MakeSeparator(menu, "Indent");
     MenuTechMod = MakeItem(menu, "MenuTechMod", "Tech Modifiers");
 }
@@ -92,6 +100,25 @@ QAction* MainMenu::MakeBarItem(const char* name, const char* caption) {
     QAction* item = addAction(caption);
     item->setObjectName(name);
     return item;
+}
+
+void MainMenu::OpenBy(QAction* item) {
+    window()->activateWindow();
+    if (item->menu()) {
+        setActiveAction(item);
+    } else {
+        item->trigger();
+    }
+}
+
+void MainMenu::WorkIn(QWidget* other) {
+    for (QAction* item : actions()) {
+        const QKeySequence key = QKeySequence::mnemonic(item->text());
+        if (!key.isEmpty()) {
+            connect(new QShortcut(key, other), &QShortcut::activated, this,
+                    [this, item] { OpenBy(item); });
+        }
+    }
 }
 
 void MainMenu::ShowLaws(const LawMarks& laws) {

@@ -17,6 +17,8 @@ public:
 
     /// Shows the check marks of the laws and house rules.
     void ShowLaws(const LawMarks& laws);
+    /// Lets the keys of the menus, such as Alt+L, work in another window.
+    void WorkIn(QWidget* other);
 
     // The items that do something. They belong to the menu.
     QAction* LGame = nullptr;
@@ -41,6 +43,7 @@ private:
     void MakeTechMenu();
     void MakeLawsMenu();
     void MakeTradeMenu();
+    void OpenBy(QAction* item);
     QMenu* MakeMenu(const char* name, const char* caption);
     QAction* MakeBarItem(const char* name, const char* caption);
 };

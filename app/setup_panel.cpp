@@ -37,6 +37,7 @@ constexpr int BottomOfScroll = ScrollForNoPlayers - MinPlayers;
 
 SetupPanel::SetupPanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     setObjectName("GameSetupPic");
+    setAccessibleName("Game Setup");
     setGeometry(Panel);
     setAutoFillBackground(true);
     MakeLabels();

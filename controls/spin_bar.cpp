@@ -84,6 +84,15 @@ void SpinBar::timerEvent(QTimerEvent* event) {
     FramedBar::timerEvent(event);
 }
 
+// Whoever scrolls past means something else.
+void SpinBar::wheelEvent(QWheelEvent* event) {
+    if (hasFocus()) {
+        FramedBar::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
 void SpinBar::hideEvent(QHideEvent* event) {
     Hold(SliderNoAction);
     FramedBar::hideEvent(event);

@@ -5,8 +5,8 @@
 
 namespace ksm {
 
-/// Two arrows and no room for a thumb: one step for a click, a wheel notch or an arrow key; a held
-/// mouse button repeats. Each half of the bar is one button; the arrow of a direction in which the
+/// Two arrows and no room for a thumb: one step for a click, an arrow key or, with the focus, a wheel
+/// notch; a held mouse button repeats. Each half of the bar is one button; the arrow of a direction in which the
 /// range ends is grey.
 class SpinBar : public FramedBar {
     Q_OBJECT
@@ -29,6 +29,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     /// The step that a button at this place stands for.

@@ -3,6 +3,7 @@
 #include "controls/caption_label.h"
 #include "controls/choice_box.h"
 #include "controls/element_name.h"
+#include "controls/focus_group.h"
 #include "controls/look.h"
 #include "controls/shape_frame.h"
 #include "controls/spin_bar.h"
@@ -132,6 +133,7 @@ void PlayerColumn::MakeTechnologies() {
     Enviro = MakeBox("Enviro", "Enviro Comp.", 322);
     PellamTools = MakeBox("PellamTools", "Pellam Tools", 336);
     Micro = MakeBox("Micro", "Micro Tech.", 350);
+    new FocusGroup({Enviro, PellamTools, Micro}, FocusGroup::Keys::Arrows, this);
     connect(Enviro, &QCheckBox::toggled, this, &PlayerColumn::Enviro_Click);
     connect(PellamTools, &QCheckBox::toggled, this, &PlayerColumn::PellamTools_Click);
     connect(Micro, &QCheckBox::toggled, this, &PlayerColumn::Micro_Click);
@@ -189,6 +191,14 @@ void PlayerColumn::ShowTechBoxes() {
     PellamTools->setEnabled(Record().PellamToolsEnabled);
     Micro->setChecked(Record().Micro);
     Micro->setEnabled(Record().MicroEnabled);
+}
+
+QWidget* PlayerColumn::Name() const {
+    return PlayerName;
+}
+
+QWidget* PlayerColumn::Docks() const {
+    return DockScroll;
 }
 
 QPoint PlayerColumn::NamePlace() const {

@@ -37,6 +37,8 @@ public:
     /// Shows figures, docks and technologies.
     void ShowValues();
 
+    QWidget* Name() const;
+    QWidget* Docks() const;
     /// Top left corner of the name label, in pixels of the window.
     QPoint NamePlace() const;
 

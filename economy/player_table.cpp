@@ -1,6 +1,7 @@
 #include "economy/player_table.h"
 
 #include "controls/caption_label.h"
+#include "controls/focus_group.h"
 
 namespace ksm {
 
@@ -41,13 +42,20 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
         label->SetCaption(heading.Caption);
     }
     const QStringList races = RaceNames();
+    QList<QWidget*> names;
+    QList<QWidget*> docks;
     for (int player = 1; player <= MaxPlayers; ++player) {
         auto* column = new PlayerColumn(game, player, races, window);
         connect(column, &PlayerColumn::InputChanged, this, &PlayerTable::InputChanged);
         connect(column, &PlayerColumn::Changed, this, &PlayerTable::Changed);
         connect(column, &PlayerColumn::NameClicked, this, &PlayerTable::NameClicked);
         columns[player] = column;
+        names << column->Name();
+        docks << column->Docks();
     }
+    new FocusGroup(names, FocusGroup::Keys::Arrows, this);
+    // Up and Down build docks.
+    new FocusGroup(docks, FocusGroup::Keys::LeftAndRight, this);
 }
 
 void PlayerTable::ShowPhase() {

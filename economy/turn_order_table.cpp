@@ -37,6 +37,7 @@ void SetItalic(CaptionLabel& label, bool italic) {
 
 TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     setObjectName("UpLefPic");
+    setAccessibleName("Order of play");
     setGeometry(Panel);
     for (const Heading& heading : Headings) {
         auto* label = new CaptionLabel(QString(), heading.Place, this);

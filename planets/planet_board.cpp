@@ -2,6 +2,7 @@
 
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
+#include "controls/focus_group.h"
 #include "controls/framed_bar.h"
 #include "controls/look.h"
 #include "controls/qt_values.h"
@@ -27,6 +28,7 @@ constexpr QSize OwnerSize{70, 14};
 
 PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), state(game) {
     setObjectName("InvasionPic");
+    setAccessibleName("Planet board");
     setGeometry(Panel);
     MakeOwners();
     MakeRows();
@@ -59,10 +61,16 @@ void PlanetBoard::MakeOwners() {
         make(player, 0, PlainFont());
         InvasionPlayer[player]->SetHeading(QString("Planets of Player %1").arg(player));
     }
+    QList<QWidget*> owners{InvasionPlayer[AllPlanets]};
+    for (int owner = NeutralOwner; owner <= MaxPlayers; ++owner) {
+        owners << InvasionPlayer[owner];
+    }
+    new FocusGroup(owners, FocusGroup::Keys::Arrows, this);
 }
 
 void PlanetBoard::MakeRows() {
     rows.reserve(BoardRowCount);
+    QList<QWidget*> names;
     for (int row = 0; row < BoardRowCount; ++row) {
         const PlanetLabel* name = &rows.emplace_back(row, state, this).Name();
         connect(name, &PlanetLabel::Pressed, this, [this, row] { Take(row); });
@@ -70,9 +78,14 @@ void PlanetBoard::MakeRows() {
         connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
         connect(name, &PlanetLabel::DragCancelled, this, &PlanetBoard::CancelDrag);
         connect(name, &PlanetLabel::Activated, this, [this, row] { PickUpOrSetDown(row); });
-        connect(name, &PlanetLabel::Stepped, this, &PlanetBoard::Carry);
+        connect(name, &PlanetLabel::Stepped, this, [this](int step) {
+            carried ? Carry(step) : planets->Move(step);
+        });
         connect(name, &PlanetLabel::Abandoned, this, &PlanetBoard::PutBack);
+        names << &rows.back().Name();
     }
+    // A planet that is carried needs the arrow keys itself.
+    planets = new FocusGroup(names, FocusGroup::Keys::None, this);
 }
 
 void PlanetBoard::ShowGame() {
@@ -237,9 +250,6 @@ void PlanetBoard::PickUpOrSetDown(int row) {
 }
 
 void PlanetBoard::Carry(int step) {
-    if (!carried) {
-        return;
-    }
     // Over the owners in the game, the pool first, round and round; never to the listed owner.
     const int owners = state.NumPlayers + 1;
     int next = carried->Over;

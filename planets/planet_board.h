@@ -13,6 +13,7 @@
 namespace ksm {
 
 class CaptionLabel;
+class FocusGroup;
 class FramedBar;
 
 /// Picture box `InvasionPic`. Its rows change only when a view is listed; a planet that changes
@@ -79,6 +80,7 @@ private:
     GameState& state;
     std::map<int, CaptionLabel*> InvasionPlayer; ///< 0..10 and `AllPlanets`
     std::vector<BoardRow> rows;
+    FocusGroup* planets = nullptr;
     FramedBar* PlanetScroller = nullptr;
     std::optional<Journey> dragged; ///< by the mouse
     std::optional<Journey> carried; ///< by the keyboard

@@ -3,6 +3,7 @@
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
 #include "controls/even_drawing.h"
+#include "controls/focus_group.h"
 #include "controls/message_label.h"
 #include "controls/qt_values.h"
 #include "controls/shape_frame.h"
@@ -26,6 +27,7 @@ constexpr QColor Background{0xB8, 0xC0, 0xCA};
 
 TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     setObjectName("TradePic");
+    setAccessibleName("Trade");
     setGeometry(Panel);
     QPalette painted = palette();
     painted.setColor(QPalette::Window, Background);
@@ -48,6 +50,7 @@ void TradePanel::MakeLabels() {
         connect(label, &CaptionLabel::Clicked, this, [this, player] { TradePlayer_Click(player); });
         TradePlayer[player] = label;
     }
+    new FocusGroup({TradePlayer.begin(), TradePlayer.end()}, FocusGroup::Keys::Arrows, this);
     TradeNumber = new CaptionLabel("TradeNumber", {28, 2, 193, 19}, this);
     TradeNumber->SetAlignment(Qt::AlignCenter);
     TInfo = new MessageLabel("TInfo", {220, 112, 73, 57}, this);

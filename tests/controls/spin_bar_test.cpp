@@ -39,12 +39,20 @@ TEST_F(SpinBarTest, QuickClicksAllCountAsFarAsTheRange) {
     }
 }
 
-TEST_F(SpinBarTest, OneStepForAWheelNotchAndForAnArrowKey) {
-    for (const auto& [angle, key, value] :
-         {std::tuple{120, Qt::Key_Up, 3}, std::tuple{-120, Qt::Key_Down, 5}}) {
+TEST_F(SpinBarTest, OneStepForAnArrowKeyAndForAWheelNotchWithTheFocus) {
+    const auto turn = [&](int angle) {
         QWheelEvent notch(QPointF(8, 8), QPointF(8, 8), {}, QPoint(0, angle), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&bar, &notch);
+    };
+    turn(120);
+    EXPECT_EQ(bar.value(), 5);
+    window.activateWindow();
+    bar.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.hasFocus(); }));
+    for (const auto& [angle, key, value] :
+         {std::tuple{120, Qt::Key_Up, 3}, std::tuple{-120, Qt::Key_Down, 5}}) {
+        turn(angle);
         QTest::keyClick(&bar, key);
         EXPECT_EQ(bar.value(), value);
     }

@@ -1,5 +1,7 @@
 #include "tests/game_window.h"
 
+#include <QMenu>
+
 #include <functional>
 
 namespace ksm {
@@ -132,23 +134,77 @@ TEST(PlanetBoard, RefusedDropsAndDropsElsewhereLeaveTheColours) {
     EXPECT_EQ(board.state.Planets, before.Planets);
 }
 
-TEST(PlanetBoard, ADragEndsWhenAWindowOpensOrItsRowGetsAnotherPlanet) {
+// A window, a menu, or something that got the release of the button.
+TEST(PlanetBoard, ADragThatSomethingComesBetweenEndsVisibly) {
+    const std::function<void(Board&)> disturbances[]{
+        [](Board& board) {
+            board.Choose("About");
+            board.Find<QWidget>("AboutForm")->close();
+        },
+        [](Board& board) {
+            board.Choose("Dice");
+            board.Find<QWidget>("DiceForm")->close();
+        },
+        [](Board& board) {
+            board.Find<QMenu>("MenuLaws")->popup(QPoint(0, 0));
+            board.Find<QMenu>("MenuLaws")->close();
+        },
+        [](Board& board) { QTest::mouseRelease(board.Find<QWidget>("TradePic"), Qt::LeftButton); }};
+    for (const auto& disturb : disturbances) {
+        Board board;
+        board.Press(0);
+        auto* outline = board.Find<QWidget>("DragOutline");
+        EXPECT_TRUE(outline->isVisible()) << "from the press on";
+        board.MoveOver(0, 6);
+        disturb(board);
+        EXPECT_FALSE(outline->isVisible());
+        EXPECT_EQ(board.Owners() + board.RowColour(0), ".......Y.");
+        board.DropOn(0, board.Find("InvasionPlayer", 6));
+        EXPECT_EQ(board.state.Planet(0).Owner, NeutralOwner);
+    }
+}
+
+TEST(PlanetBoard, ADragGoesOnWhenTheBoardIsListedAgain) {
+    const std::function<void(Board&)> listings[]{
+        [](Board& board) { board.Find<QScrollBar>("PlanetScroller")->setValue(3); },
+        [](Board& board) { QTest::keyClick(board.Find("InvasionPlayer", 2), Qt::Key_Space); }};
+    for (const auto& list : listings) {
+        Board board;
+        board.Press(0);
+        list(board);
+        EXPECT_NE(board.Tag(0), "0");
+        board.MoveOver(0, 6);
+        EXPECT_EQ(board.Back("InvasionPlayer", 6), Red);
+        board.DropOn(0, board.Find("InvasionPlayer", 6));
+        EXPECT_EQ(board.state.Planet(0).Owner, 6) << "the planet that was pressed";
+    }
+}
+
+TEST(PlanetBoard, ADropOnAnEmptyRowCancels) {
     Board board;
-    const auto outline = [&] { return board.window.findChild<QWidget*>("DragOutline"); };
+    board.Click("InvasionPlayer", 2);
+    for (int planet = 4; planet < 17; ++planet) {
+        board.Drag(0, 3); // until three are left
+    }
     board.Press(0);
     board.MoveOver(0, 6);
-    EXPECT_TRUE(outline()->isVisible());
-    board.Choose("About");
-    EXPECT_FALSE(outline()->isVisible());
-    board.Find<QWidget>("AboutForm")->close();
+    board.DropOn(0, board.Row(8));
+    EXPECT_EQ(board.Owners() + board.RowColour(0), "..Y......");
+}
+
+TEST(PlanetBoard, ADropOnAWindowOverTheBoardDoesNothing) {
+    Board board;
+    board.Choose("Notes");
+    auto* notes = board.Find<QWidget>("NoteForm");
+    notes->move(board.window.mapToGlobal(QPoint(150, 40)));
+    board.Press(0);
+    board.MoveOver(0, 6);
     board.DropOn(0, board.Find("InvasionPlayer", 6));
     EXPECT_EQ(board.state.Planet(0).Owner, NeutralOwner);
-
-    board.Press(0);
-    board.MoveOver(0, 6);
-    board.Find<QScrollBar>("PlanetScroller")->setValue(3);
-    board.DropOn(0, board.Find("InvasionPlayer", 6));
-    EXPECT_EQ(board.state.Planet(3).Owner, NeutralOwner) << "never another planet than the held";
+    EXPECT_EQ(board.Owners() + board.RowColour(0), "......RYR");
+    notes->close();
+    board.Drag(0, 6);
+    EXPECT_EQ(board.state.Planet(0).Owner, 6);
 }
 
 TEST(PlanetBoard, FiguresOfManyDigitsAreNotCut) {
