@@ -9,7 +9,7 @@ class QWidget;
 namespace ksm {
 
 /// The text for a tooltip or message box that would take a name with angle brackets for markup.
-/// Lines break at blanks.
+/// Long lines break at blanks, short ones do not.
 QString PlainText(const QString& text);
 
 /// Answers a request for the tooltip of `control`; an empty text hides the one that is shown.
