@@ -5,9 +5,9 @@
 
 namespace ksm {
 
-/// Two arrows and no room for a thumb: one step for a click, an arrow key or, with the focus, a wheel
-/// notch; a held mouse button repeats. Each half of the bar is one button; the arrow of a direction in which the
-/// range ends is grey.
+/// Two arrows and no room for a thumb: one step for a click, an arrow key or, with the focus, a
+/// wheel notch; a held mouse button repeats. Each half of the bar is one button; the arrow of a
+/// direction in which the range ends is grey.
 class SpinBar : public FramedBar {
     Q_OBJECT
 

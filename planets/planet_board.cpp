@@ -78,9 +78,8 @@ void PlanetBoard::MakeRows() {
         connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
         connect(name, &PlanetLabel::DragCancelled, this, &PlanetBoard::CancelDrag);
         connect(name, &PlanetLabel::Activated, this, [this, row] { PickUpOrSetDown(row); });
-        connect(name, &PlanetLabel::Stepped, this, [this](int step) {
-            carried ? Carry(step) : planets->Move(step);
-        });
+        connect(name, &PlanetLabel::Stepped, this,
+                [this](int step) { carried ? Carry(step) : planets->Move(step); });
         connect(name, &PlanetLabel::Abandoned, this, &PlanetBoard::PutBack);
         names << &rows.back().Name();
     }
