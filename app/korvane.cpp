@@ -27,6 +27,17 @@ namespace {
 
 constexpr QSize ClientSize{640, 446};
 
+/// The area below the menu bar. Nothing shows whether it has the focus, which a click on a label
+/// gives it: to paint all of it anew, as Qt would, were wasted.
+class ClientArea : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
+};
+
 } // namespace
 
 Korvane::Korvane(GameState& game, KeptGame* keeper)
@@ -38,7 +49,7 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
     setWindowTitle(ProgramTitle);
     menu = new MainMenu(this);
     setMenuBar(menu);
-    client = new QWidget(this);
+    client = new ClientArea(this);
     client->setFixedSize(ClientSize);
     // The menu bar comes on top of the client area, however high it is.
     setCentralWidget(client);

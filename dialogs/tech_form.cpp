@@ -84,12 +84,14 @@ void DrawConnectors(QPainter& painter, const std::vector<Connector>& connectors)
 void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
     painter.setRenderHint(QPainter::Antialiasing);
     for (const StrokePair& pair : pairs) {
-        painter.setPen(QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(
+            QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         const QPointF tip = ToQPoint(pair.Line2.From);
         const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
-        for (const ChartStroke& stroke : {pair.Line2, pair.Line3}) {
-            painter.drawLine(ToQPoint(stroke.From) + even, ToQPoint(stroke.To) + even);
-        }
+        // Both meet at the tip.
+        const std::array points{ToQPoint(pair.Line2.To) + even, tip + even,
+                                ToQPoint(pair.Line3.To) + even};
+        painter.drawPolyline(points.data(), points.size());
     }
 }
 

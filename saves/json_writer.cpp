@@ -7,10 +7,13 @@ void JsonWriter::Text(const char* name, const std::string& utf8) {
 }
 
 void JsonWriter::Hue(const char* name, Colour colour) {
-    const std::array bytes{static_cast<char>(colour.Red), static_cast<char>(colour.Green),
-                           static_cast<char>(colour.Blue)};
-    const QByteArray digits = QByteArray::fromRawData(bytes.data(), bytes.size()).toHex().toUpper();
-    Put(name, QString(u'#' + QLatin1StringView(digits)));
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    std::string text = "#";
+    for (const std::uint8_t part : {colour.Red, colour.Green, colour.Blue}) {
+        text += Digits[part / 16U];
+        text += Digits[part % 16U];
+    }
+    Put(name, QLatin1StringView(text));
 }
 
 void JsonWriter::Place(const char* name, Point place, int, int) {

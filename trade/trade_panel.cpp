@@ -89,8 +89,10 @@ void TradePanel::Apply(const TradeOutcome& outcome) {
     if (outcome.ValuesChange) {
         emit InputChanged();
     }
-    if (outcome.Diagram != DiagramChange::None) {
-        DrawOutcome(game, outcome);
+    DrawOutcome(game, outcome);
+    if (outcome.Diagram == DiagramChange::AddLine) {
+        ShowLine(game.TradeStrokes.back());
+    } else if (outcome.Diagram == DiagramChange::Redraw) {
         ShowDiagram();
     }
     emit Changed();
@@ -107,6 +109,13 @@ void TradePanel::SetLabelVisible(int player, bool visible) {
 
 void TradePanel::ShowDiagram() {
     update();
+}
+
+void TradePanel::ShowLine(const Stroke& stroke) {
+    const int edge = stroke.Width;
+    update(QRect(ToQPoint(stroke.From), ToQPoint(stroke.To))
+               .normalized()
+               .adjusted(-edge, -edge, edge, edge));
 }
 
 void TradePanel::ShowInfo() {

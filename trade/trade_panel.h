@@ -52,6 +52,7 @@ private:
     void AddTAbutton_Click();
     void RemoveTAButton_Click();
     void TradePlayer_Click(int player);
+    void ShowLine(const Stroke& stroke);
 
     Game& game;
     PerPlayer<CaptionLabel*> TradePlayer;
