@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -18,6 +19,7 @@
 #include <QRadioButton>
 #include <QRubberBand>
 #include <QScrollBar>
+#include <QShortcut>
 
 #include <array>
 #include <initializer_list>
@@ -59,8 +61,9 @@ public:
         MakeTrade();
         MakeSetup();
         PlaceAll();
-        client->setFocusPolicy(Qt::ClickFocus);
-        client->setFocus();
+        client->setFocus(); // no text box whose caret would blink
+        connect(new QShortcut(QKeySequence("F5"), this), &QShortcut::activated, this,
+                &BareWindow::OpenDialog);
     }
 
 private:
@@ -307,14 +310,29 @@ private:
         Paint(owners[2 + static_cast<std::size_t>(written / 2 % 2)], colour);
     }
 
-    // Three clicks: the button, and two players.
+    // Three clicks: the button, and two players. Twelve labels change.
     void ClickPlayer() {
         Write({tradeInfo});
         agreementMade = !agreementMade;
         if (!agreementMade) {
-            Write({tradeNumber, columns[1].Figures[3]});
-            trade->update();
+            Write({tradeNumber, columns[1].Figures[3], columns[2].Figures[3]});
+            for (const std::size_t row : {1U, 2U}) {
+                Write({summary[3 * row], summary[3 * row + 1], summary[3 * row + 2]});
+            }
         }
+    }
+
+    // As many labels as the standard chart has.
+    void OpenDialog() {
+        auto* dialog = new QDialog(this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->setFixedSize(553, 475);
+        for (int box = 0; box < 20; ++box) {
+            const QRect place(31 + 138 * (box % 4), 14 + 96 * (box / 4), 77, 33);
+            Paint(MakeLabel("MICRO\nTECHNOLOGY", place, dialog), Orange);
+        }
+        MakeLabel("= AND", {51, 451, 40, 17}, dialog);
+        dialog->open();
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
