@@ -1,9 +1,30 @@
 #include "app/display_choice.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QtGlobal>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace ksm {
+
+namespace {
+
+void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtFatalMsg) {
+        std::fputs("ksm: There is no display that the window can be shown on; start the program on "
+                   "a desktop.\n",
+                   stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+    // What the parts of Qt that look for a display say on the way is in the sentence.
+    if (!QByteArrayView(context.category).startsWith("qt.qpa.")) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    }
+}
+
+} // namespace
 
 void ChooseDisplay() {
     const bool chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
@@ -12,6 +33,18 @@ void ChooseDisplay() {
     if (!chosen && wayland && x11) {
         qputenv("QT_QPA_PLATFORM", QByteArray("xcb"));
     }
+}
+
+void ExplainMissingDisplay() {
+    qInstallMessageHandler(ExplainFatal);
+}
+
+void ForgetMissingDisplay() {
+    qInstallMessageHandler(nullptr);
+}
+
+bool IsWayland() {
+    return QGuiApplication::platformName().startsWith("wayland");
 }
 
 } // namespace ksm

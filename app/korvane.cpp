@@ -21,6 +21,8 @@
 #include <QLayout>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace ksm {
 
 namespace {
@@ -249,7 +251,12 @@ void Korvane::keyPressEvent(QKeyEvent* event) {
 
 void Korvane::CentreOnScreen() {
     adjustSize();
-    move(pos() + screen()->geometry().center() - frameGeometry().center());
+    QRect frame = frameGeometry();
+    frame.moveCenter(screen()->geometry().center());
+    // What a screen is too small for is cut off at the end, where neither title nor menus are.
+    const QPoint first = screen()->availableGeometry().topLeft();
+    frame.moveTo(std::max(frame.left(), first.x()), std::max(frame.top(), first.y()));
+    move(frame.topLeft());
 }
 
 void Korvane::moveEvent(QMoveEvent* event) {

@@ -1,6 +1,7 @@
 // Starts the program.
 
 #include "app/display_choice.h"
+#include "app/fixed_size_guard.h"
 #include "app/korvane.h"
 #include "app/program_folder.h"
 #include "app/single_instance.h"
@@ -37,13 +38,19 @@ int main(int argc, char* argv[]) {
     // The look is our own, and the menu bar stands in the window: nothing to ask the desktop for.
     QGuiApplication::setDesktopSettingsAware(false);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    ksm::ExplainMissingDisplay();
     QApplication application(argc, argv);
+    ksm::ForgetMissingDisplay();
     QApplication::setApplicationName("ksm");
     QGuiApplication::setDesktopFileName("ksm");
     ksm::ApplyLook();
     ksm::InstallAccessibleNames();
     ksm::InputGuard guard;
     application.installEventFilter(&guard);
+    ksm::FixedSizeGuard sizeGuard;
+    if (ksm::IsWayland()) {
+        application.installEventFilter(&sizeGuard);
+    }
     QApplication::setWindowIcon(ksm::ProgramIcon());
 
     const ksm::SingleInstance instance;

@@ -1,0 +1,28 @@
+// A hand on the program: says on the standard output what its first window shows, then closes it.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+void CloseFirstWindow() {
+    QTextStream said(stdout);
+    if (const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        said << box->text();
+    } else {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            said << (window->isVisible() ? window->windowTitle() : QString());
+        }
+    }
+    QApplication::closeAllWindows();
+}
+
+void AwaitFirstWindow() {
+    QTimer::singleShot(0, CloseFirstWindow);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(AwaitFirstWindow)
