@@ -13,7 +13,7 @@ SourceFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
     MeasurePackages=(libbenchmark-dev)
     FuzzPackages=(clang libclang-rt-14-dev)
     LintPackages=(clang-format clang-tidy shellcheck flake8)
-    PackagePackages=(dpkg-dev file gzip lintian desktop-file-utils appstream man-db groff)
+    PackagePackages=(dpkg-dev file gzip lintian desktop-file-utils appstream man-db groff mandoc)
 }
 
 # Install PACKAGE...: installs those of the packages that are missing.
