@@ -101,8 +101,12 @@ void CaptionLabel::Fit() const {
     const int smallest = smallestText != 0 ? smallestText : font().pixelSize() - 2;
     shownFont = FittingFont(font(), smallest, start, room);
     const QFontMetricsF metrics(shownFont);
-    shownText = metrics.elidedText(start, Qt::ElideRight, room);
+    shownText = start;
     shownWidth = metrics.horizontalAdvance(shownText);
+    if (shownWidth > room) {
+        shownText = metrics.elidedText(start, Qt::ElideRight, room);
+        shownWidth = metrics.horizontalAdvance(shownText);
+    }
 }
 
 QPointF CaptionLabel::BaseLineStart(const QFontMetricsF& metrics) const {

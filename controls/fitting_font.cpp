@@ -13,7 +13,7 @@ QFont FittingFont(const QFont& font, int smallest, const std::function<bool(cons
     QFont narrow = NarrowFont(font.pixelSize());
     narrow.setBold(font.bold());
     narrow.setItalic(font.italic());
-    while (narrow.pixelSize() > smallest && !fits(narrow)) {
+    while (!fits(narrow) && narrow.pixelSize() > smallest) {
         narrow.setPixelSize(narrow.pixelSize() - 1);
     }
     return narrow;

@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <qdrawutil.h>
 
 #include <algorithm>
 
@@ -74,11 +75,7 @@ public:
         QProxyStyle::drawControl(element, option, painter, control);
         const bool isButton = element == CE_PushButton || element == CE_CheckBox;
         if (isButton && option->state.testFlag(State_HasFocus)) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing);
-            painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
-            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 2, 2);
-            painter->restore();
+            qDrawPlainRect(painter, option->rect, option->palette.color(QPalette::Highlight), 2);
         }
     }
 };

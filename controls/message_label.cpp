@@ -61,9 +61,10 @@ bool MessageLabel::TakeIfItFits(const QString& lines, int smallest) {
         return false;
     }
     shownText = lines;
-    shownFont =
-        FittingFont(font(), smallest, [&](const QFont& tried) { return Fits(lines, tried); });
-    isWhole = Fits(lines, shownFont);
+    shownFont = FittingFont(font(), smallest, [&](const QFont& tried) {
+        isWhole = Fits(lines, tried);
+        return isWhole;
+    });
     return isWhole;
 }
 

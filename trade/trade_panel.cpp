@@ -89,12 +89,14 @@ void TradePanel::Apply(const TradeOutcome& outcome) {
     if (outcome.ValuesChange) {
         emit InputChanged();
     }
-    DrawOutcome(game, outcome);
-    if (outcome.Diagram == DiagramChange::AddLine) {
-        ShowLine(game.TradeStrokes.back());
-    } else if (outcome.Diagram == DiagramChange::Redraw) {
-        ShowDiagram();
+    // A new line covers the others; where all are drawn anew, the old ones go.
+    if (outcome.Diagram == DiagramChange::Redraw) {
+        ShowStrokes(game.TradeStrokes);
     }
+    const std::size_t kept =
+        outcome.Diagram == DiagramChange::Redraw ? 0 : game.TradeStrokes.size();
+    DrawOutcome(game, outcome);
+    ShowStrokes(std::span(game.TradeStrokes).subspan(kept));
     emit Changed();
 }
 
@@ -111,11 +113,13 @@ void TradePanel::ShowDiagram() {
     update();
 }
 
-void TradePanel::ShowLine(const Stroke& stroke) {
-    const int edge = stroke.Width;
-    update(QRect(ToQPoint(stroke.From), ToQPoint(stroke.To))
-               .normalized()
-               .adjusted(-edge, -edge, edge, edge));
+void TradePanel::ShowStrokes(std::span<const Stroke> strokes) {
+    for (const Stroke& stroke : strokes) {
+        const int edge = stroke.Width;
+        update(QRect(ToQPoint(stroke.From), ToQPoint(stroke.To))
+                   .normalized()
+                   .adjusted(-edge, -edge, edge, edge));
+    }
 }
 
 void TradePanel::ShowInfo() {

@@ -52,7 +52,7 @@ private:
     void AddTAbutton_Click();
     void RemoveTAButton_Click();
     void TradePlayer_Click(int player);
-    void ShowLine(const Stroke& stroke);
+    void ShowStrokes(std::span<const Stroke> strokes);
 
     Game& game;
     PerPlayer<CaptionLabel*> TradePlayer;
