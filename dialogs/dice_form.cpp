@@ -38,7 +38,8 @@ CaptionLabel* MakeFigure(const QString& name, QPoint corner, int pixels, QWidget
 
 } // namespace
 
-DiceForm::DiceForm(QWidget* owner) : FixedDialog("DiceForm", "Dice Roller", {125, 146}, owner) {
+DiceForm::DiceForm(QWidget* owner, std::function<unsigned()> seed)
+    : FixedDialog("DiceForm", "Dice Roller", {125, 146}, owner), newSeed(std::move(seed)) {
     (new ShapeFrame("Shape1", QRect(3, 3, 115, 112), 30, this))->SetFill(QColor(224, 224, 224));
     (new ShapeFrame("Shape2", QRect(40, 39, 41, 41), 20, this))->SetFill(QColor(206, 206, 206));
     for (int i = 0; i < MaxDice; ++i) {
@@ -65,6 +66,10 @@ DiceForm::DiceForm(QWidget* owner) : FixedDialog("DiceForm", "Dice Roller", {125
     Form_Load();
 }
 
+unsigned DiceForm::TimeOfDay() {
+    return static_cast<unsigned>(QTime::currentTime().msecsSinceStartOfDay());
+}
+
 void DiceForm::Form_Load() {
     PlaceFromOwner({FromTwips(8400), FromTwips(500)});
     Scroll->setValue(OneDie);
@@ -80,7 +85,7 @@ void DiceForm::Scroll_Change() {
 }
 
 void DiceForm::Command1_Click() {
-    std::mt19937 generator(static_cast<unsigned>(QTime::currentTime().msecsSinceStartOfDay()));
+    std::mt19937 generator(newSeed());
     std::uniform_real_distribution<double> distribution;
     const DicePlaces rolled = RollDice(dice, [&] { return distribution(generator); });
     for (std::size_t i = 0; i < rolled.size(); ++i) {
