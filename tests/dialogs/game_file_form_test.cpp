@@ -4,11 +4,8 @@
 #include "tests/saves/sample_game.h"
 #include "tests/window_test.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QListWidget>
-#include <QMessageBox>
-#include <QTimer>
 
 namespace ksm {
 namespace {
@@ -65,17 +62,11 @@ TEST_F(GameFileForms, AFailureIsToldAndTheDialogStays) {
         delete form;
         Open(opened);
         Box()->setText("taken");
-        QStringList said;
-        QTimer::singleShot(0, &owner, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            said = {box->windowTitle(), box->text(), box->informativeText()};
-            EXPECT_EQ(box->icon(), QMessageBox::Critical);
-            box->accept();
-        });
+        ExpectedBox box;
         Press(button);
-        ASSERT_EQ(said.size(), 3);
-        EXPECT_EQ(said.first(2), QStringList({title, text}));
-        EXPECT_NE(said[2], "");
+        ASSERT_EQ(box.Said.size(), 3);
+        EXPECT_EQ(box.Said.first(2), QStringList({title, text}));
+        EXPECT_NE(box.Said[2], "");
         EXPECT_FALSE(IsUnloaded(form));
         EXPECT_EQ(Box()->text(), "taken.ksm");
     }
