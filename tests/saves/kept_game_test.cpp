@@ -1,35 +1,12 @@
-#include "saves/game_file.h"
 #include "saves/kept_game.h"
-#include "tests/saves/sample_game.h"
+#include "tests/saves/saves_folder.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace ksm {
 namespace {
 
-class KeptGames : public testing::Test {
-protected:
-    void SetUp() override { QDir::setCurrent(folder.path()); }
-    void TearDown() override { QDir::setCurrent(oldFolder); }
-
-    static QStringList Files() { return QDir().entryList(QDir::Files | QDir::Hidden); }
-    static GameState WithNotes(const std::string& notes) {
-        GameState game = SampleGame();
-        game.NotesText = notes;
-        return game;
-    }
-    static std::string NotesIn(const char* name) {
-        const ReadGameResult read = LoadGameFile(name);
-        return read.Game ? read.Game->NotesText : read.Problem.toStdString();
-    }
-
-    const QString oldFolder = QDir::currentPath();
-    const QTemporaryDir folder;
-};
+using KeptGames = SavesFolder;
 
 TEST_F(KeptGames, AreWrittenWhenTheGameChanged) {
     GameState game = SampleGame();
@@ -59,12 +36,15 @@ TEST_F(KeptGames, TheEveningBeforeGetsAnotherName) {
 
 TEST_F(KeptGames, LinksAreNotFollowed) {
     ASSERT_EQ(SaveGameFile("mine.ksm", WithNotes("mine")), "");
-    ASSERT_TRUE(QFile::link("mine.ksm", KeptGameName));
-    KeptGame kept(SampleGame());
-    kept.Keep(WithNotes("tonight"));
-    EXPECT_EQ(NotesIn("mine.ksm"), "mine");
-    EXPECT_EQ(NotesIn(KeptGameName), "tonight");
-    EXPECT_FALSE(QFileInfo(KeptGameName).isSymLink());
+    for (const char* target : {"mine.ksm", "lost.ksm"}) {
+        QFile::remove(KeptGameName);
+        ASSERT_TRUE(QFile::link(target, KeptGameName));
+        KeptGame(SampleGame()).Keep(WithNotes("tonight"));
+        EXPECT_EQ(NotesIn("mine.ksm"), "mine");
+        EXPECT_EQ(NotesIn(KeptGameName), "tonight");
+        EXPECT_FALSE(QFileInfo(KeptGameName).isSymLink());
+        EXPECT_TRUE(QFileInfo(EarlierGameName).isSymLink());
+    }
 }
 
 TEST_F(KeptGames, AFailureIsRememberedAndTriedAgain) {

@@ -6,67 +6,63 @@
 #include "planets/planet_list_file.h"
 #include "trade/trade_diagram.h"
 
+#include <algorithm>
+
 namespace ksm {
 
 using namespace std::string_literals;
 
 GameState SampleGame() {
     GameState game;
-    std::string list;
-    for (int i = 0; i < 20; ++i) {
-        list += "Planet " + std::to_string(i) + "," + "2,1,blue\r\n";
+    std::string list = "Zo\xC3\xAB \"the\\far\"\n,3,1,green\r'\r,0,4,r\rQuessin,255,0\r";
+    for (int i = 0; i < 15; ++i) {
+        list.append("P").append(std::to_string(i)).append(",2,1,blue\r");
     }
-    TakePlanets(game,
-                ReadPlanetList(list + "Zo\xC3\xAB \"the\\far\"\n,3,1,green\r'\r,0,4,r").Planets);
-    for (int planet = 0; planet < 15; ++planet) {
-        game.Planet(planet).Owner = 3;
+    TakePlanets(game, ReadPlanetList(list).Planets);
+    for (PlanetRecord& planet : game.LoadedPlanets()) {
+        planet.Owner = 3;
     }
+    game.Planet(0).Owner = NeutralOwner;
     game.Planet(7).Owner = 10;
-    game.Player(NeutralOwner).PlanetList = EmptyPlanetList();
     // What transfers leave behind: planets that were lost, and one twice.
-    game.Player(3).PlanetList[0] = 0;
-    game.Player(3).PlanetList[1] = 7;
-    game.Player(3).PlanetList[2] = 0;
-    game.Player(NeutralOwner).PlanetList[0] = 21;
+    std::ranges::copy(std::array{0, 7, 0}, game.Player(3).PlanetList.begin());
+    game.Player(NeutralOwner).PlanetList = EmptyPlanetList();
+    game.Player(NeutralOwner).PlanetList[0] = 17;
 
+    SetPlayerCount(game, 9);
+    SetPlayerCount(game, 4);
+    game.Started = true;
+    for (int race = 0; race < RaceCount; ++race) {
+        game.Player(race + 2).Race = static_cast<Race>(race);
+        TakeCostsOfRace(game.Player(race + 2));
+    }
     PlayerRecord& third = game.Player(3);
     third.Name = "<b>Ren\xC3\xA9\xEF\xBB\xBF</b> \xF0\x9F\x9A\x80";
-    third.Race = Race::IthVeran;
-    TakeCostsOfRace(third);
     third.Named = true;
     third.ShortName = "";
-    third.NameColours = third.TradeColours = {{1, 2, 254}, {171, 205, 239}};
+    third.NameColours = {{1, 2, 254}, {171, 205, 239}};
+    third.TradeColours = {{3, 4, 5}, {6, 7, 8}};
     third.SpaceDocks = 10;
     third.Enviro = third.PellamToolsEnabled = third.MicroEnabled = true;
-    third.PellamTools = true;
+    game.Player(4).PellamTools = true;
+    game.Player(4).PellamToolsEnabled = game.Player(4).MicroEnabled = true;
     game.Player(5).MicroEnabled = game.Player(5).Micro = true;
-    game.Player(5).Race = Race::Orrun;
     game.Player(10).SpaceDocks = 0;
 
-    game.NumPlayers = 4;
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        game.Player(player).TradeRing = player <= 4 ? 4 : 9 + player % 2;
-    }
-    game.Player(10).TradeRing = 10;
-    game.Started = true;
-    game.Cell(3, 5) = game.Cell(10, 1) = Agreement;
+    game.Cell(3, 5) = game.Cell(4, 10) = game.Cell(10, 1) = Agreement;
     game.TradeMode = TradeMode::AddPartner;
     game.TradeFirst = 3;
     game.TradeInfo = "x makes Trade Agreement with...\r\n";
-    game.IndepFirst = 2;
-    game.IndepSecond = 2;
+    game.IndepFirst = 5;
+    game.IndepSecond = 9;
     RedrawTradeDiagram(game);
-    game.Laws = {.LabourUnion = true,
-                 .EconomicIndependence = true,
-                 .FreeTrade = true,
-                 .TradeRestrictions = true,
-                 .OrlenHouseRules = true};
+    game.Laws = {true, true, true, true, true};
     game.GreenModifier = 0;
     game.BlueModifier = 16;
     game.YellowModifier = 14;
     game.RedModifier = MaxModifier;
     game.View.BoardPlayer = 3;
-    game.View.BoardPosition = 2;
+    game.View.BoardPosition = 4;
     game.View.EditedPlayer = 5;
     game.NotesText = "line 1\n\tline \"2\"\x01 and nul \0 here \xC2\x85"s;
     UpdateValues(game);
