@@ -5,25 +5,25 @@
 namespace ksm {
 namespace {
 
-GameState GameWithPlanets(std::initializer_list<const char*> names) {
-    GameState state;
-    for (const char* name : names) {
-        state.Planet(state.NumPlanets++).Name = name;
+using Names = std::vector<std::string>;
+
+Game GameWithPlanets(const Names& names) {
+    Game game;
+    for (const std::string& name : names) {
+        game.Planet(game.NumPlanets++).Name = name;
     }
-    return state;
+    return game;
 }
 
-std::vector<std::string> PlanetsOf(const GameState& state, int player) {
-    std::vector<std::string> names;
-    for (int planet = 0; planet < state.NumPlanets; ++planet) {
-        if (state.Planet(planet).Owner == player) {
-            names.push_back(state.Planet(planet).Name);
+Names PlanetsOf(const Game& game, int player) {
+    Names names;
+    for (const PlanetRecord& planet : game.LoadedPlanets()) {
+        if (planet.Owner == player) {
+            names.push_back(planet.Name);
         }
     }
     return names;
 }
-
-using Names = std::vector<std::string>;
 
 TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
     const std::tuple<Race, int, int, bool, Names> rows[]{
@@ -35,44 +35,42 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
         {Race::Orrun, 30, 30, false, {"Pellis Tau", "Pellis Ren"}}};
     for (const auto& [race, red, others, enviro, homes] : rows) {
         SCOPED_TRACE(TraitsOf(race).Caption);
-        GameState state = GameWithPlanets({"Quessin", "Belthune", "Miradel", "Ostrane", "Ith",
-                                           "Veran", "Ossa Prime", "Calix Terra", "Sennavor",
-                                           "Gor'Tash", "Pellis Tau", "Pellis Ren", "Ith ", "ith"});
+        Game game = GameWithPlanets({"Quessin", "Belthune", "Miradel", "Ostrane", "Ith", "Veran",
+                                     "Ossa Prime", "Calix Terra", "Sennavor", "Gor'Tash",
+                                     "Pellis Tau", "Pellis Ren", "Ith ", "ith"});
         // What an earlier choice left behind must not stay.
-        ChooseRace(state, 2, race == Race::IthVeran ? Race::Quorvi : Race::IthVeran);
-        ChooseRace(state, 2, race);
-        const PlayerRecord& player = state.Player(2);
-        EXPECT_EQ(player.RedCost, red);
-        EXPECT_EQ(player.BlueCost, others);
-        EXPECT_EQ(player.YellowCost, others);
-        EXPECT_EQ(player.GreenCost, others);
-        EXPECT_EQ(state.Player(2).Enviro, enviro);
-        EXPECT_EQ(state.Player(2).MicroEnabled, enviro);
-        EXPECT_EQ(PlanetsOf(state, 2), homes);
+        ChooseRace(game, 10, race == Race::IthVeran ? Race::Quorvi : Race::IthVeran);
+        ChooseRace(game, 10, race);
+        const PlayerRecord& player = game.Player(10);
+        EXPECT_EQ((std::array<int, 4>{player.RedCost, player.BlueCost, player.YellowCost,
+                                      player.GreenCost}),
+                  (std::array{red, others, others, others}));
+        EXPECT_EQ((std::array{player.Enviro, player.PellamToolsEnabled, player.MicroEnabled}),
+                  (std::array{enviro, enviro, enviro}));
+        EXPECT_EQ(PlanetsOf(game, 10), homes);
     }
 }
 
 TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
-    GameState state = GameWithPlanets({"Ith", "Veran", "Veran", "Far", "Quessin"});
-    ChooseRace(state, 1, Race::IthVeran);
-    ChooseRace(state, 2, Race::IthVeran);
-    EXPECT_EQ(PlanetsOf(state, 2), (Names{"Ith", "Veran", "Veran"})) << "a name on the list twice";
-    EXPECT_EQ(state.Player(1).Race, Race::IthVeran);
-    EXPECT_EQ(state.Player(1).RedCost, 40);
-    state.Planet(0).Owner = 4;
-    state.Planet(3).Owner = 2;
-    ChooseRace(state, 2, Race::IthVeran);
-    EXPECT_EQ(PlanetsOf(state, 2), (Names{"Ith", "Veran", "Veran"})) << "the same race again";
+    Game game = GameWithPlanets({"Ith", "Veran", "Veran", "Far", "Quessin"});
+    ChooseRace(game, 1, Race::IthVeran);
+    game.Planet(0).Owner = 4;
+    game.Planet(3).Owner = 2;
+    ChooseRace(game, 2, Race::IthVeran);
+    EXPECT_EQ(PlanetsOf(game, 2), (Names{"Ith", "Veran", "Veran"})) << "a name on the list twice";
+    EXPECT_EQ(game.Player(1).RedCost, 40) << "whose planets are taken keeps the race";
 }
 
 TEST(Races, ATickedTechnologyOutlivesTheRaceThatAllowedIt) {
-    GameState state = GameWithPlanets({"Quessin"});
-    ChooseRace(state, 1, Race::Altheran);
-    state.Player(1).Micro = true;
-    ChooseRace(state, 1, Race::Khorrum);
-    EXPECT_FALSE(state.Player(1).Enviro);
-    EXPECT_FALSE(state.Player(1).PellamToolsEnabled);
-    EXPECT_TRUE(state.Player(1).Micro && state.Player(1).MicroEnabled);
+    for (const bool pellamTools : {true, false}) {
+        Game game = GameWithPlanets({"Quessin"});
+        PlayerRecord& player = game.Player(1);
+        ChooseRace(game, 1, Race::Altheran);
+        (pellamTools ? player.PellamTools : player.Micro) = true;
+        ChooseRace(game, 1, Race::Khorrum);
+        EXPECT_EQ(player.PellamToolsEnabled, pellamTools);
+        EXPECT_TRUE(player.MicroEnabled) << "ticked, or allowed by Pellam Tools";
+    }
 }
 
 } // namespace

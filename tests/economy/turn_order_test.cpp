@@ -14,39 +14,41 @@ std::vector<int> Order(Game& game) {
     return players;
 }
 
-void SetFigures(GameState& state, int player, int influence, int resources) {
-    state.Player(player).Influence = influence;
-    state.Player(player).Resources = resources;
+void SetFigures(Game& game, int player, int influence, int resources) {
+    game.Player(player).Influence = influence;
+    game.Player(player).Resources = resources;
 }
 
 TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
-    GameState state;
-    SetFigures(state, 1, 5, 4);
-    SetFigures(state, 2, 9, 2);
-    SetFigures(state, 3, 9, 6);
-    SetFigures(state, 9, 5, 4);
-    EXPECT_EQ(Order(state), (std::vector{3, 2, 1, 9, 4, 5, 6, 7, 8, 10}));
-    state.Laws.OrlenHouseRules = true;
-    EXPECT_EQ(Order(state), (std::vector{2, 3, 1, 9, 4, 5, 6, 7, 8, 10}));
-    state.NumPlayers = 2;
-    SetFigures(state, 1, 0, 5);
-    EXPECT_EQ(Order(state).back(), 1) << "behind the slots outside the game";
+    Game game;
+    SetFigures(game, 1, 5, 4);
+    SetFigures(game, 2, 9, 2);
+    SetFigures(game, 3, 9, 6);
+    SetFigures(game, 10, 5, 4);
+    game.Player(10).Name = "Jo";
+    EXPECT_EQ(Order(game), (std::vector{3, 2, 1, 10, 4, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(game.TurnOrderRows[3], (TurnOrderRow{10, "Jo", 4, 5}));
+    game.Laws.OrlenHouseRules = true;
+    EXPECT_EQ(Order(game), (std::vector{2, 3, 1, 10, 4, 5, 6, 7, 8, 9}));
+    game.NumPlayers = 2;
+    SetFigures(game, 1, 0, 5);
+    EXPECT_EQ(Order(game).back(), 1) << "behind the slots outside the game";
 }
 
 TEST(TurnOrder, OnlyADravikPlayerWithoutAgreementIsItalic) {
-    GameState state;
-    state.Player(4).Race = Race::Dravik;
-    state.Player(5).Race = Race::Orrun;
-    const auto expectItalic = [&state](int italic) {
-        TurnOrder(state);
-        for (const TurnOrderRow& row : state.TurnOrderRows) {
+    Game game;
+    game.Player(4).Race = Race::Dravik;
+    game.Player(5).Race = Race::Orrun;
+    const auto expectItalic = [&game](int italic) {
+        TurnOrder(game);
+        for (const TurnOrderRow& row : game.TurnOrderRows) {
             EXPECT_EQ(row.Italic, row.Player == italic) << row.Player;
         }
     };
     expectItalic(4);
-    state.Cell(5, 6) = Agreement;
+    game.Cell(5, 6) = Agreement;
     expectItalic(4);
-    state.Cell(9, 4) = Agreement; // whichever of the two made the agreement
+    game.Cell(10, 4) = Agreement; // whichever of the two made the agreement
     expectItalic(0);
 }
 

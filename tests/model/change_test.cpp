@@ -17,9 +17,17 @@ Game NamedGame() {
     game.Planet(1).Name = "Caldry";
     SetName(game, 4, "Dora", "Dor");
     SetName(game, 5, "Emil", "Emi");
-    game.Cell(1, 5) = Agreement;
-    game.Cell(2, 5) = Agreement;
+    game.Cell(1, 5) = game.Cell(2, 5) = Agreement;
     return game;
+}
+
+template<bool LawMarks::*Law>
+void Switch(Game& game) {
+    game.Laws.*Law = true;
+}
+template<bool PlayerRecord::*Technology>
+void Tick(Game& game) {
+    game.Player(4).*Technology = game.Player(4).MicroEnabled = true;
 }
 
 TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
@@ -28,23 +36,33 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](Game& game) { ChooseRace(game, 4, Race::Altheran); }, "Altheran, Dora"},
         {[](Game& game) { game.Planet(1).Owner = 5; }, "Caldry to Emil"},
         {[](Game& game) { game.Planet(1).Owner = 10; }, "Caldry to Player 10"},
-        {[](Game& game) { game.Player(4).PellamTools = true; }, "Pellam Tools, Dora"},
-        {[](Game& game) { game.Player(4).Enviro = game.Player(4).MicroEnabled = true; },
-         "Enviro Comp., Dora"},
+        {Tick<&PlayerRecord::Enviro>, "Enviro Comp., Dora"},
+        {Tick<&PlayerRecord::PellamTools>, "Pellam Tools, Dora"},
+        {Tick<&PlayerRecord::Micro>, "Micro Tech., Dora"},
         {[](Game& game) { game.Player(10).SpaceDocks = 0; }, "Space Docks, Player 10"},
-        {[](Game& game) { SetName(game, 4, "Ada", "Ada"); }, "name, Ada"},
-        {[](Game& game) { SetName(game, 4, "", ""); }, "name, Player 4"},
+        {[](Game& game) { SetName(game, 4, "Ada", "Dor"); }, "name, Ada"},
+        {[](Game& game) { SetName(game, 4, "Dora", "D"); }, "name, Dora"},
+        {[](Game& game) { SetName(game, 3, "", "PL 3"); }, "name, Player 3"},
         {[](Game& game) { SetColours(game, 4, {}); }, "colour, Dora"},
-        {[](Game& game) { game.Cell(4, 5) = Agreement; }, "agreement of Dora and Emil"},
+        {[](Game& game) { game.Cell(4, 10) = Agreement; }, "agreement of Dora and Player 10"},
+        {[](Game& game) { game.Cell(10, 1) = Agreement; }, "agreement of Player 10 and Player 1"},
         {[](Game& game) { game.Cell(2, 5) = NoAgreement; }, "agreement of Player 2 and Emil"},
         {[](Game& game) { TStop_Click(game); }, "Trade Stop"},
+        {[](Game& game) { game.TradeStrokes.resize(1); }, "Trade Stop"},
         {[](Game& game) { game.TradeMode = TradeMode::AddPartner; }, "Add"},
         {[](Game& game) { game.TradeMode = TradeMode::RemoveFirst; }, "Remove"},
+        {[](Game& game) { game.TradeMode = TradeMode::RemovePartner; }, "Remove"},
         {[](Game& game) { Tres_Click(game); }, "Economic Independance"},
-        {[](Game& game) { TFree_Click(game); }, "Free Trade"},
-        {[](Game& game) { game.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
+        {[](Game& game) { game.IndepFirst = 2; }, "Economic Independance"},
+        {[](Game& game) { game.IndepSecond = 2; }, "Economic Independance"},
+        {Switch<&LawMarks::LabourUnion>, "Labour Union"},
+        {Switch<&LawMarks::FreeTrade>, "Free Trade"},
+        {Switch<&LawMarks::TradeRestrictions>, "Trade Restrictions"},
+        {Switch<&LawMarks::OrlenHouseRules>, "Orlen house rules"},
         {[](Game& game) { game.YellowModifier = game.RedModifier = 0; }, "Tech Modifiers"},
         {[](Game& game) { game.Planet(0).Owner = game.Planet(1).Owner = 5; }, "Load Game"},
+        {[](Game& game) { game.Started = true; }, "Load Game"},
+        {[](Game& game) { game.NumPlanets = 1; }, "Load Game"},
         {[](Game& game) {
              ChooseRace(game, 4, Race::Altheran);
              game.Laws.LabourUnion = true;
@@ -69,6 +87,10 @@ TEST(IsChange, NotByWhatIsOnlySaidOrComputed) {
     after.TradeFirst = 3;
     after.TurnOrderRows[0].Name = "Ada";
     EXPECT_FALSE(IsChange(before, after));
+    after.TradeMode = TradeMode::AddPartner;
+    const Game first = after;
+    after.TradeFirst = 4;
+    EXPECT_TRUE(IsChange(first, after)) << "the selection goes another way";
 }
 
 } // namespace

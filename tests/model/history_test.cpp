@@ -11,38 +11,45 @@ namespace {
 struct Played : Game {
     History Steps{*this};
 
-    void Dock(int docks) {
-        Player(1).SpaceDocks = docks;
-        Steps.Record(*this);
+    void Dock(std::initializer_list<int> counts) {
+        for (const int docks : counts) {
+            Player(1).SpaceDocks = docks;
+            Steps.Record(*this);
+        }
     }
-    void Click(int player) {
-        TradePlayer_Click(*this, player);
-        Steps.Record(*this);
+    void Click(std::initializer_list<int> players) {
+        for (const int player : players) {
+            TradePlayer_Click(*this, player);
+            Steps.Record(*this);
+        }
     }
-    void Add() {
+    void Add(std::initializer_list<int> players) {
         AddTAbutton_Click(*this);
         Steps.Record(*this);
+        Click(players);
     }
-    void Undo() { static_cast<Game&>(*this) = Steps.Undo(); }
-    void Redo() { static_cast<Game&>(*this) = Steps.Redo(); }
+    int Undo() {
+        static_cast<Game&>(*this) = Steps.Undo();
+        return Player(1).SpaceDocks;
+    }
+    int Redo() {
+        static_cast<Game&>(*this) = Steps.Redo();
+        return Player(1).SpaceDocks;
+    }
 };
 
 TEST(History, GoesBackAndForthAndForgetsWhatWasUndone) {
     Played game;
     EXPECT_FALSE(game.Steps.CanUndo() || game.Steps.CanRedo());
-    for (const int docks : {2, 3, 4}) {
-        game.Dock(docks);
-    }
-    game.Undo();
-    game.Undo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 2);
-    game.Redo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 3);
+    EXPECT_EQ(game.Steps.UndoText() + game.Steps.RedoText(), "");
+    game.Dock({2, 3, 4});
+    EXPECT_EQ(game.Undo(), 3);
+    EXPECT_EQ(game.Undo(), 2);
+    EXPECT_EQ(game.Redo(), 3);
     EXPECT_EQ(game.Steps.RedoText(), "Space Docks, Player 1");
-    game.Dock(9);
+    game.Dock({9});
     EXPECT_FALSE(game.Steps.CanRedo());
-    game.Undo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 3);
+    EXPECT_EQ(game.Undo(), 3);
     game.Steps.Restart(game);
     EXPECT_FALSE(game.Steps.CanUndo() || game.Steps.CanRedo());
 }
@@ -50,59 +57,53 @@ TEST(History, GoesBackAndForthAndForgetsWhatWasUndone) {
 TEST(History, WhatIsHeldOrDoneInAWindowIsOneStep) {
     Played game;
     game.Steps.BeginStep();
-    for (const int docks : {2, 1, 3, 4}) {
-        game.Dock(docks); // back where it began in between
-    }
+    game.Steps.BeginStep();
+    game.Dock({2, 1, 3, 4}); // back where it began in between
     game.Steps.EndStep();
-    game.Dock(5);
-    game.Undo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 4);
-    game.Undo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 1);
+    game.Dock({5});
+    game.Steps.EndStep();
+    game.Dock({6});
+    EXPECT_EQ(game.Undo(), 5);
+    EXPECT_EQ(game.Undo(), 1);
     EXPECT_FALSE(game.Steps.CanUndo());
 
     game.Steps.BeginStep();
-    game.Dock(7);
-    game.Dock(1);
+    game.Dock({7, 1});
     EXPECT_FALSE(game.Steps.CanUndo()) << "a step that changed nothing is none";
-    game.Dock(8);
-    game.Undo();
-    game.Dock(3);
-    game.Undo();
-    EXPECT_EQ(game.Player(1).SpaceDocks, 1) << "what follows an undo does not change the past";
+    game.Dock({8});
+    EXPECT_EQ(game.Undo(), 1);
+    game.Dock({3});
+    EXPECT_EQ(game.Undo(), 1) << "what follows an undo does not change the past";
 }
 
 TEST(History, ASelectionIsOneStepThatCanBeTakenBackInItsMiddle) {
     Played game;
-    game.Add();
-    game.Click(3);
+    game.Add({3});
     EXPECT_EQ(game.Steps.UndoText(), "Add");
     game.Undo();
     EXPECT_EQ(game.TradeMode, TradeMode::Idle);
     EXPECT_EQ(game.TradeInfo, "\r\nPress Add to make a Trade Agreement");
     game.Redo();
-    game.Click(5);
+    game.Click({5});
     EXPECT_TRUE(HaveAgreement(game, 3, 5));
     game.Undo();
     EXPECT_FALSE(HaveAgreement(game, 3, 5) || game.Steps.CanUndo());
     game.Redo();
-
-    game.Add();
-    game.Click(5);
-    game.Click(3);
-    EXPECT_EQ(game.TradeInfo, " and  already have a TA");
+    game.Add({5, 3});
     game.Undo();
     EXPECT_FALSE(game.Steps.CanUndo()) << "what was refused is no step";
-    EXPECT_FALSE(HaveAgreement(game, 3, 5));
+    game.Add({4});
+    game.Dock({7});
+    game.Undo();
+    EXPECT_EQ(game.Steps.UndoText(), "Add") << "what else is done in a selection is a step";
 }
 
 TEST(History, ALawSwitchedOnInASelectionTakesItOver) {
     Played game;
-    game.Add();
+    game.Add({});
     Tres_Click(game);
     game.Steps.Record(game);
-    game.Click(2);
-    game.Click(7);
+    game.Click({2, 7});
     EXPECT_EQ(game.Steps.UndoText(), "Economic Independance");
     game.Undo();
     EXPECT_FALSE(game.Laws.EconomicIndependence || game.Steps.CanUndo());

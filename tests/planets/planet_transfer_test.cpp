@@ -1,3 +1,4 @@
+#include "planets/planet_text.h"
 #include "planets/planet_transfer.h"
 
 #include <algorithm>
@@ -22,28 +23,22 @@ std::vector<int> List(const GameState& state, int owner) {
 
 TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     GameState state = GameOfTwentyPlanets();
-    EXPECT_TRUE(TransferPlanet(state, 0, 3));
-    EXPECT_TRUE(TransferPlanet(state, 7, 3));
-    EXPECT_EQ(state.Planet(7).Owner, 3);
-    EXPECT_EQ(List(state, 3), (std::vector{0, 7}));
+    EXPECT_TRUE(TransferPlanet(state, 0, 10));
+    EXPECT_TRUE(TransferPlanet(state, 19, 10));
+    EXPECT_EQ(state.Planet(19).Owner, 10);
+    EXPECT_EQ(List(state, 10), (std::vector{0, 19}));
     EXPECT_EQ(List(state, NeutralOwner).size(), 18U);
     EXPECT_EQ(List(state, NeutralOwner).front(), 1);
 
-    state.View.BoardPlayer = 3;
+    state.View.BoardPlayer = 10;
     EXPECT_TRUE(TransferPlanet(state, 0, NeutralOwner));
-    EXPECT_EQ(List(state, 3), std::vector{7});
+    EXPECT_EQ(List(state, 10), std::vector{19});
     EXPECT_EQ(List(state, NeutralOwner).back(), 0) << "appended, not sorted in";
-}
 
-TEST(PlanetTransfer, FromAllPlanetsTheFormerPlayerKeepsTheListEntry) {
-    GameState state = GameOfTwentyPlanets();
-    TransferPlanet(state, 5, 4);
+    state.View.BoardPlayer = AllPlanets;
     const std::vector<int> pool = List(state, NeutralOwner);
-    EXPECT_TRUE(TransferPlanet(state, 5, 6));
-    EXPECT_EQ(state.Planet(5).Owner, 6);
-    for (const int owner : {4, 6}) {
-        EXPECT_EQ(List(state, owner), std::vector{5}) << owner;
-    }
+    EXPECT_TRUE(TransferPlanet(state, 19, 6));
+    EXPECT_EQ(List(state, 6), List(state, 10)) << "the former owner keeps the entry";
     EXPECT_EQ(List(state, NeutralOwner), pool);
 }
 
@@ -54,12 +49,16 @@ TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
     EXPECT_FALSE(TransferPlanet(state, 5, 4));
     EXPECT_FALSE(TransferPlanet(state, 20, 4)) << "a row behind the last planet of a short list";
     EXPECT_EQ(state, before);
-    PlanetIndexList& list = state.Player(4).PlanetList;
-    list.fill(1);
-    const PlanetIndexList full = list;
+
+    state.Player(4).PlanetList.fill(9);
+    GameState expected = state;
+    expected.Planet(9).Owner = 4;
     EXPECT_TRUE(TransferPlanet(state, 9, 4));
-    EXPECT_EQ(state.Planet(9).Owner, 4) << "the planet changes hands all the same";
-    EXPECT_EQ(list, full);
+    expected.Player(NeutralOwner).PlanetList = state.Player(NeutralOwner).PlanetList;
+    EXPECT_EQ(state, expected) << "the planet changes hands all the same";
+    state.View.BoardPlayer = 4;
+    TransferPlanet(state, 9, 2);
+    EXPECT_EQ(List(state, 4), std::vector<int>(100, 9));
 }
 
 TEST(PlanetTransfer, SomeDropsAreRefused) {
@@ -69,6 +68,21 @@ TEST(PlanetTransfer, SomeDropsAreRefused) {
          {std::tuple{3, 7, true}, std::tuple{NeutralOwner, 0, true}, std::tuple{2, 7, false},
           std::tuple{AllPlanets, 7, false}, std::tuple{3, int{NoPlanet}, false}}) {
         EXPECT_EQ(AcceptsDrop(state, owner, planet), accepted) << owner << ", " << planet;
+    }
+}
+
+TEST(PlanetText, SaysWhoseThePlanetIsAndWhatItBrings) {
+    GameState state = GameOfTwentyPlanets();
+    state.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
+    state.Planet(19) = {"Far", 0, 4};
+    const std::tuple<int, const char*, const char*> rows[]{
+        {18, "Ith belongs to Player 10",
+         "3 resources, 2 influence\nmakes green technology cheaper by its resources"},
+        {19, "Far belongs to nobody", "0 resources, 4 influence"},
+        {20, "", ""}};
+    for (const auto& [planet, owner, figures] : rows) {
+        EXPECT_EQ(OwnerText(state, planet), owner);
+        EXPECT_EQ(PlanetFiguresText(state, planet), figures);
     }
 }
 

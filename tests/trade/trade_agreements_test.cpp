@@ -1,6 +1,7 @@
 #include "economy/value_update.h"
 #include "trade/trade_agreements.h"
 #include "trade/trade_laws.h"
+#include "trade/trade_text.h"
 
 #include <gtest/gtest.h>
 
@@ -63,6 +64,7 @@ const std::vector<ClickCase> ClickCases{
     {{Add, 3, 5, Remove}, "\r\nSelect first player...", RemoveFirst, {{3, 5}}},
     {{Add, 3, 5, Remove, 5, 5}, "P5 breaks Trade Agreement with...", RemovePartner, {{3, 5}}},
     {{Add, 3, 5, Remove, 5, 3}, "P3 and P5 break their TA", Idle, {}, ValuesAndRedraw},
+    {{Add, 3, 10, Remove, 3, 10}, "P10 and P3 break their TA", Idle, {}, ValuesAndRedraw},
     {{Add, 3, 5, Remove, 2, 4}, "P4 & P2 don't have a TA to break", Idle, {{3, 5}}},
     {{Tres}, "Select First Player...", IndependenceFirst},
     {{Tres, 2}, "P2 is not allowed to trade with...", IndependenceSecond},
@@ -114,6 +116,24 @@ TEST(TradeLaws, TogglesReportAndReturnToWhatTheyWere) {
             EXPECT_EQ(state.TradeInfo, inForce ? on : off);
         }
     }
+}
+
+TEST(TradeText, SaysWithWhomAPlayerTradesAndWhichLawsBind) {
+    GameState state = NamedPlayers();
+    state.Cell(3, 10) = state.Cell(1, 3) = Agreement;
+    state.IndepFirst = state.IndepSecond = 3; // a pair that binds nobody
+    EXPECT_EQ(TradeText(state, 2), "P2 has no Trade Agreement");
+    EXPECT_EQ(TradeText(state, 3), "P3 trades with P1, P10");
+    state.IndepSecond = 4;
+    state.Laws.FreeTrade = true;
+    EXPECT_EQ(TradeText(state, 3), "P3 trades with P1, P10\n"
+                                   "Free Trade: five credits for each partner\n"
+                                   "Economic Independance: no trade with P4");
+    state.Laws = {.TradeRestrictions = true};
+    EXPECT_EQ(TradeText(state, 4),
+              "P4 has no Trade Agreement\n"
+              "Trade Restrictions: an agreement brings the smaller planet count of the two\n"
+              "Economic Independance: no trade with P3");
 }
 
 TEST(TradeCountSentence, CountsInWords) {
