@@ -1,5 +1,6 @@
 #include "economy/value_update.h"
 #include "planets/board_listing.h"
+#include "planets/owner_place.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,14 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
         {BoardGame(4, 10), {0, 2, none, none, none, none, none, none, none, none, none, none}}};
     for (const auto& [state, expected] : rows) {
         EXPECT_EQ(ListBoard(state), expected) << state.NumPlanets << " planets";
+    }
+}
+
+TEST(OwnerPlace, SpacesTheOwnersOnTheBoard) {
+    for (const auto& [players, first, last] : {std::tuple{2, 36, 61}, std::tuple{6, 36, 161},
+                                               std::tuple{7, 31, 157}, std::tuple{10, 31, 166}}) {
+        EXPECT_EQ(TopOfOwner(1, players), first) << players;
+        EXPECT_EQ(TopOfOwner(players, players), last) << players;
     }
 }
 

@@ -8,21 +8,12 @@ namespace {
 
 using enum Specialty;
 
-struct LineCase {
-    std::string Line;
-    PlanetRecord Planet;
-};
-
-const LineCase Lines[]{
+const std::pair<std::string, PlanetRecord> Lines[]{
     // Fields.
     {"Alpha,2,1,b", {"Alpha", 2, 1, Blue}},
-    {"Alpha,2,1,Blue", {"Alpha", 2, 1, Blue}},
-    {"Alpha,2,1,g", {"Alpha", 2, 1, Green}},
     {"Alpha,2,1,green,extra", {"Alpha", 2, 1, Green}},
-    {"Alpha,2,1,r", {"Alpha", 2, 1, Red}},
     {"Alpha,2,1,RED", {"Alpha", 2, 1, Red}},
     {"Alpha, 2, 1, b", {"Alpha", 2, 1, None}},
-    {"Alpha", {"Alpha", 0, 0, None}},
     {"Alpha,,3,yellow", {"Alpha", 0, 3, None}},
     {" Al pha ,1", {" Al pha ", 1, 0, None}},
     {"\"A,B\",4", {"\"A", 0, 4, None}},
@@ -35,11 +26,11 @@ const LineCase Lines[]{
     {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
     {"\xED\xA0\x80", {"\xC3\xAD\xC2\xA0\xE2\x82\xAC", 0, 0, None}},
     // Numbers.
-    {"N,3x,1", {"N", 3, 1, None}},
+    {"N,3x,1,Blue", {"N", 3, 1, Blue}},
     {"N,x3,+4", {"N", 0, 4, None}},
-    {"N,2.5,3.5", {"N", 2, 4, None}},
+    {"N,2.5,3.5,g", {"N", 2, 4, Green}},
     {"N,-.5,-0.4", {"N", 0, 0, None}},
-    {"N,.6,5.", {"N", 1, 5, None}},
+    {"N,.6,5.,r", {"N", 1, 5, Red}},
     {"N,1.2.9,.", {"N", 1, 0, None}},
     {"N,1 \t2,1e1", {"N", 12, 10, None}},
     {"N,25D-1,1.5E+1", {"N", 2, 15, None}},
@@ -87,18 +78,15 @@ TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLineUpToTen) {
 
 TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
     std::string most;
-    for (int i = 0; i < MaxPlanets; ++i) {
+    for (int count = 1; count <= MaxPlanets; ++count) {
         most += "P\r\n";
-    }
-    for (const std::string& list : {std::string("A\rB\rC,9"), most}) {
         Game game;
-        TakePlanets(game, ReadPlanetList(list).Planets);
-        const std::size_t count = list == most ? 101 : 3;
+        TakePlanets(game, ReadPlanetList(most).Planets);
+        EXPECT_EQ(game.NumPlanets, count);
         const PlayerRecord& pool = game.Player(NeutralOwner);
-        EXPECT_TRUE(game.LoadedPlanets().size() == count && pool.PlanetCount == game.NumPlanets);
-        EXPECT_EQ(game.LoadedPlanets().back().Name, list == most ? "P" : "C");
+        EXPECT_EQ(pool.PlanetCount, count);
         EXPECT_EQ(std::ranges::find(pool.PlanetList, NoPlanet) - pool.PlanetList.begin(), count);
-        EXPECT_EQ(pool.PlanetList[count - 1], count - 1);
+        EXPECT_EQ(pool.PlanetList.at(game.LoadedPlanets().size() - 1), count - 1);
     }
     const PlanetListResult more = ReadPlanetList(most + "'c\rQ\rR");
     EXPECT_EQ(more.Problems,
@@ -117,7 +105,6 @@ TEST(PlanetList, WithoutAPlanetOrAFileIsAProblem) {
     for (const char* path : {"/no/such/file", "/"}) {
         const std::string message = DescribeProblems(path, ReadPlanetListFile(path).Problems);
         EXPECT_TRUE(message.find("\nthe file cannot be read: ") != std::string::npos) << message;
-        EXPECT_TRUE(message.back() != ')') << "nothing else is allowed";
     }
 }
 

@@ -1,3 +1,4 @@
+#include "planets/planet_list_file.h"
 #include "planets/planet_text.h"
 #include "planets/planet_transfer.h"
 
@@ -7,12 +8,10 @@
 namespace ksm {
 namespace {
 
+/// Twenty planets of the pool.
 GameState GameOfTwentyPlanets() {
     GameState state;
-    state.NumPlanets = 20;
-    for (std::uint8_t planet = 0; planet < 20; ++planet) {
-        state.Player(NeutralOwner).PlanetList[planet] = planet;
-    }
+    TakePlanets(state, std::vector<PlanetRecord>(20));
     return state;
 }
 
@@ -23,23 +22,18 @@ std::vector<int> List(const GameState& state, int owner) {
 
 TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     GameState state = GameOfTwentyPlanets();
-    EXPECT_TRUE(TransferPlanet(state, 0, 10));
-    EXPECT_TRUE(TransferPlanet(state, 19, 10));
+    EXPECT_TRUE(TransferPlanet(state, 0, 10) && TransferPlanet(state, 19, 10));
     EXPECT_EQ(state.Planet(19).Owner, 10);
     EXPECT_EQ(List(state, 10), (std::vector{0, 19}));
-    EXPECT_EQ(List(state, NeutralOwner).size(), 18U);
-    EXPECT_EQ(List(state, NeutralOwner).front(), 1);
-
+    const std::vector<int> pool = List(state, NeutralOwner);
+    EXPECT_TRUE(pool.size() == 18 && pool.front() == 1 && pool.back() == 18);
+    TransferPlanet(state, 19, 6);
+    EXPECT_EQ(List(state, 10), (std::vector{0, 19})) << "from all planets the entry stays";
+    EXPECT_EQ(List(state, NeutralOwner), pool);
     state.View.BoardPlayer = 10;
-    EXPECT_TRUE(TransferPlanet(state, 0, NeutralOwner));
+    TransferPlanet(state, 0, NeutralOwner);
     EXPECT_EQ(List(state, 10), std::vector{19});
     EXPECT_EQ(List(state, NeutralOwner).back(), 0) << "appended, not sorted in";
-
-    state.View.BoardPlayer = AllPlanets;
-    const std::vector<int> pool = List(state, NeutralOwner);
-    EXPECT_TRUE(TransferPlanet(state, 19, 6));
-    EXPECT_EQ(List(state, 6), List(state, 10)) << "the former owner keeps the entry";
-    EXPECT_EQ(List(state, NeutralOwner), pool);
 }
 
 TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
@@ -75,15 +69,12 @@ TEST(PlanetText, SaysWhoseThePlanetIsAndWhatItBrings) {
     GameState state = GameOfTwentyPlanets();
     state.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
     state.Planet(19) = {"Far", 0, 4};
-    const std::tuple<int, const char*, const char*> rows[]{
-        {18, "Ith belongs to Player 10",
-         "3 resources, 2 influence\nmakes green technology cheaper by its resources"},
-        {19, "Far belongs to nobody", "0 resources, 4 influence"},
-        {20, "", ""}};
-    for (const auto& [planet, owner, figures] : rows) {
-        EXPECT_EQ(OwnerText(state, planet), owner);
-        EXPECT_EQ(PlanetFiguresText(state, planet), figures);
-    }
+    EXPECT_EQ(OwnerText(state, 18), "Ith belongs to Player 10");
+    EXPECT_EQ(OwnerText(state, 19), "Far belongs to nobody");
+    EXPECT_EQ(PlanetFiguresText(state, 18),
+              "3 resources, 2 influence\nmakes green technology cheaper by its resources");
+    EXPECT_EQ(PlanetFiguresText(state, 19), "0 resources, 4 influence");
+    EXPECT_EQ(OwnerText(state, 20) + PlanetFiguresText(state, 20), "");
 }
 
 } // namespace

@@ -17,20 +17,20 @@ GameState NamedPlayers() {
     return state;
 }
 
-enum Click : int { Add = -1, Remove = -2, Tres = -3, TStop = -4 };
+enum Click : int { Add = -6, Remove, Tres, TStop, TFree, TRestr };
 
-TradeOutcome Do(Game& state, int click) {
-    TradeOutcome outcome;
-    if (click == Add) {
-        AddTAbutton_Click(state);
-    } else if (click == Remove) {
-        RemoveTAButton_Click(state);
-    } else {
-        outcome = click == Tres    ? Tres_Click(state)
-                  : click == TStop ? TStop_Click(state)
-                                   : TradePlayer_Click(state, click);
-    }
-    UpdateValues(state);
+/// A click on a button, a law or the label of a player.
+TradeOutcome Do(Game& game, int click) {
+    TradeOutcome (*const clicks[])(Game&){
+        [](Game& adding) { return AddTAbutton_Click(adding), TradeOutcome(); },
+        [](Game& removing) { return RemoveTAButton_Click(removing), TradeOutcome(); },
+        Tres_Click,
+        TStop_Click,
+        TFree_Click,
+        TRestr_Click};
+    const TradeOutcome outcome =
+        click > 0 ? TradePlayer_Click(game, click) : clicks[click - Add](game);
+    UpdateValues(game);
     return outcome;
 }
 
@@ -44,6 +44,7 @@ struct ClickCase {
     TradeOutcome Last = {};
 };
 
+const TradeOutcome Values{true};
 const TradeOutcome Redraw{false, DiagramChange::Redraw};
 const TradeOutcome ValuesAndRedraw{true, DiagramChange::Redraw};
 TradeOutcome Line(int maker, int partner) {
@@ -81,6 +82,10 @@ const std::vector<ClickCase> ClickCases{
     {{Tres, 2, Tres, 7}, "P7 and  are not allowed to trade with eachother", Idle, {}, Redraw},
     {{Add, 1, 2, Add, 4, 3, TStop}, "\r\n\r\nTRADE STOP!", Idle, {}, ValuesAndRedraw},
     {{Tres, 2, 7, TStop, Add, 2, 7}, NotAllowed, Idle},
+    {{TFree}, "\r\n\r\nFREE TRADE!", Idle, {}, Values},
+    {{TFree, TFree}, "\r\n\r\nFree Trade ends.", Idle, {}, Values},
+    {{TRestr}, "\r\nTRADE RESTRICTIONS!", Idle, {}, Values},
+    {{TRestr, TRestr}, "\r\nTrade Restrictions dissolved.", Idle, {}, Values},
     {{Add, 1, 2, Add, 4, TStop}, "\r\n\r\nTRADE STOP!", AddPartner, {}, ValuesAndRedraw},
 };
 
@@ -103,22 +108,10 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
     }
 }
 
-TEST(TradeLaws, TogglesReportAndReturnToWhatTheyWere) {
-    const std::tuple<TradeOutcome (*)(Game&), bool LawMarks::*, const char*, const char*> laws[]{
-        {TFree_Click, &LawMarks::FreeTrade, "\r\n\r\nFREE TRADE!", "\r\n\r\nFree Trade ends."},
-        {TRestr_Click, &LawMarks::TradeRestrictions, "\r\nTRADE RESTRICTIONS!",
-         "\r\nTrade Restrictions dissolved."}};
-    for (const auto& [click, mark, on, off] : laws) {
-        GameState state;
-        for (const bool inForce : {true, false}) {
-            EXPECT_TRUE(click(state).ValuesChange);
-            EXPECT_EQ(state.Laws.*mark, inForce);
-            EXPECT_EQ(state.TradeInfo, inForce ? on : off);
-        }
-    }
-}
-
-TEST(TradeText, SaysWithWhomAPlayerTradesAndWhichLawsBind) {
+TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
+    EXPECT_EQ(TradeCountSentence(0), "There are no Trade Agreements in play.");
+    EXPECT_EQ(TradeCountSentence(1), "There is one Trade Agreement in play.");
+    EXPECT_EQ(TradeCountSentence(45), "There are 45 Trade Agreements in play.");
     GameState state = NamedPlayers();
     state.Cell(3, 10) = state.Cell(1, 3) = Agreement;
     state.IndepFirst = state.IndepSecond = 3; // a pair that binds nobody
@@ -126,20 +119,13 @@ TEST(TradeText, SaysWithWhomAPlayerTradesAndWhichLawsBind) {
     EXPECT_EQ(TradeText(state, 3), "P3 trades with P1, P10");
     state.IndepSecond = 4;
     state.Laws.FreeTrade = true;
-    EXPECT_EQ(TradeText(state, 3), "P3 trades with P1, P10\n"
-                                   "Free Trade: five credits for each partner\n"
-                                   "Economic Independance: no trade with P4");
+    EXPECT_EQ(TradeText(state, 3),
+              "P3 trades with P1, P10\nFree Trade: five credits for each partner\n"
+              "Economic Independance: no trade with P4");
     state.Laws = {.TradeRestrictions = true};
     EXPECT_EQ(TradeText(state, 4),
-              "P4 has no Trade Agreement\n"
-              "Trade Restrictions: an agreement brings the smaller planet count of the two\n"
-              "Economic Independance: no trade with P3");
-}
-
-TEST(TradeCountSentence, CountsInWords) {
-    EXPECT_EQ(TradeCountSentence(0), "There are no Trade Agreements in play.");
-    EXPECT_EQ(TradeCountSentence(1), "There is one Trade Agreement in play.");
-    EXPECT_EQ(TradeCountSentence(45), "There are 45 Trade Agreements in play.");
+              "P4 has no Trade Agreement\nTrade Restrictions: an agreement brings the smaller "
+              "planet count of the two\nEconomic Independance: no trade with P3");
 }
 
 } // namespace
