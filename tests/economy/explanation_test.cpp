@@ -3,6 +3,7 @@
 #include "economy/turn_order.h"
 #include "economy/value_update.h"
 #include "model/player_labels.h"
+#include "planets/planet_list_file.h"
 
 #include <gtest/gtest.h>
 
@@ -10,21 +11,16 @@ namespace ksm {
 namespace {
 
 using enum Figure;
-using enum Specialty;
 
 /// Dora (4) has three planets, one of each specialty, and trades with Emil (10), who has four.
 struct Explanations : testing::Test, Game {
     Explanations() {
         NumPlayers = MaxPlayers;
-        for (const PlanetRecord& planet : {PlanetRecord{"Quessin", 2, 1, Red, 4},
-                                           {"Ith", 3, 2, Blue, 4},
-                                           {"Veran", 1, 0, Green, 4},
-                                           {"Caldry", 1, 0, Red, 10},
-                                           {"Aldis", 0, 0, None, 10},
-                                           {"Morn", 0, 0, None, 10},
-                                           {"Sol", 0, 0, None, 10},
-                                           {"Far", 9, 9, None, 0}}) {
-            Planet(NumPlanets++) = planet;
+        TakePlanets(*this, ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
+                                          "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9")
+                               .Planets);
+        for (int planet = 0; planet < 7; ++planet) {
+            Planet(planet).Owner = planet < 3 ? 4 : 10;
         }
         SetName(*this, 4, "Dora", "Dor");
         SetName(*this, 10, "Emil", "Emi");
@@ -63,7 +59,7 @@ TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
     NumPlanets = 0;
     EXPECT_EQ(Text(Resources), "Resources 0" + law);
     NumPlanets = 13;
-    std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, None, 4});
+    std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, {}, 4});
     EXPECT_EQ(Text(Influence), "Influence 26 = 26 of 13 planets" + law);
 }
 
@@ -93,7 +89,7 @@ TEST_F(Explanations, OfCosts) {
     EXPECT_EQ(Text(RedCost), "Red cost 31 = " + base + "- 2 Quessin\n+ 3 Tech Modifiers");
     EXPECT_EQ(Text(YellowCost), "Yellow cost 15 = " + base + "- 15 Tech Modifiers");
     dora.PellamTools = true;
-    Planet(0).Specialty = Blue;
+    Planet(0).Specialty = Specialty::Blue;
     BlueModifier = 14;
     EXPECT_EQ(Text(BlueCost), "Blue cost 22 = " + base +
                                   "- 2 Quessin\n- 3 Ith\n"

@@ -1,4 +1,5 @@
 #include "economy/game_setup.h"
+#include "planets/planet_list_file.h"
 
 #include <gtest/gtest.h>
 
@@ -7,11 +8,9 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-Game GameWithPlanets(const Names& names) {
+Game GameWithPlanets(const char* names) {
     Game game;
-    for (const std::string& name : names) {
-        game.Planet(game.NumPlanets++).Name = name;
-    }
+    TakePlanets(game, ReadPlanetList(names).Planets);
     return game;
 }
 
@@ -35,9 +34,9 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
         {Race::Orrun, 30, 30, false, {"Pellis Tau", "Pellis Ren"}}};
     for (const auto& [race, red, others, enviro, homes] : rows) {
         SCOPED_TRACE(TraitsOf(race).Caption);
-        Game game = GameWithPlanets({"Quessin", "Belthune", "Miradel", "Ostrane", "Ith", "Veran",
-                                     "Ossa Prime", "Calix Terra", "Sennavor", "Gor'Tash",
-                                     "Pellis Tau", "Pellis Ren", "Ith ", "ith"});
+        Game game = GameWithPlanets("Quessin\rBelthune\rMiradel\rOstrane\rIth\rVeran\rOssa Prime\r"
+                                    "Calix Terra\rSennavor\rGor'Tash\rPellis Tau\rPellis Ren\r"
+                                    "Ith \rith");
         // What an earlier choice left behind must not stay.
         ChooseRace(game, 10, race == Race::IthVeran ? Race::Quorvi : Race::IthVeran);
         ChooseRace(game, 10, race);
@@ -52,7 +51,7 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
 }
 
 TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
-    Game game = GameWithPlanets({"Ith", "Veran", "Veran", "Far"});
+    Game game = GameWithPlanets("Ith\rVeran\rVeran\rFar");
     ChooseRace(game, 1, Race::IthVeran);
     game.Planet(3).Owner = 2;
     ChooseRace(game, 2, Race::IthVeran);

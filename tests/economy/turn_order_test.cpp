@@ -15,25 +15,21 @@ std::string Order(Game& game) {
     return players;
 }
 
-void SetFigures(Game& game, int player, int influence, int resources) {
-    game.Player(player).Influence = influence;
-    game.Player(player).Resources = resources;
-}
-
 TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
     Game game;
-    SetFigures(game, 1, 5, 4);
-    SetFigures(game, 2, 9, 2);
-    SetFigures(game, 3, 9, 6);
-    SetFigures(game, 10, 5, 4);
+    for (const auto& [player, influence, resources] :
+         {std::tuple{1, 5, 4}, {2, 9, 2}, {3, 9, 6}, {10, 5, 4}}) {
+        game.Player(player).Influence = influence;
+        game.Player(player).Resources = resources;
+    }
     game.Player(10).Name = "Jo";
     EXPECT_EQ(Order(game), "3 2 1 10 4 5 6 7 8 9 ");
     EXPECT_EQ(game.TurnOrderRows[3], (TurnOrderRow{10, "Jo", 4, 5}));
     game.Laws.OrlenHouseRules = true;
     EXPECT_EQ(Order(game), "2 3 1 10 4 5 6 7 8 9 ");
     game.NumPlayers = 2;
-    SetFigures(game, 1, 0, -1);
-    EXPECT_EQ(Order(game), "2 3 10 1 4 5 6 7 8 9 ") << "also before slots outside the game";
+    game.Player(1).Influence = -1;
+    EXPECT_EQ(Order(game), "2 3 10 4 5 6 7 8 9 1 ") << "behind the slots outside the game";
 }
 
 TEST(TurnOrder, OnlyADravikPlayerWithoutAgreementIsItalic) {

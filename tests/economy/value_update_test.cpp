@@ -1,4 +1,5 @@
 #include "economy/value_update.h"
+#include "planets/planet_list_file.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +9,8 @@ namespace {
 // What a race, a technology, a law or an agreement adds is tested with its explanation.
 TEST(UpdateValues, ComputesThePoolAndTenPlayersAnew) {
     Game game;
-    for (const PlanetRecord& planet : {PlanetRecord{"P", 255, 250, Specialty::Red, 10},
-                                       {"P", 2, 14, Specialty::Red, 10},
-                                       {"P", 9, 9, Specialty::Blue, 0},
-                                       {"P", 9, 9, Specialty::Blue, 0}}) {
-        game.Planet(game.NumPlanets++) = planet;
-    }
+    TakePlanets(game, ReadPlanetList("P,255,250,r\rP,2,14,r\rP,9,9,b\rP,9,9,b").Planets);
+    game.Planet(0).Owner = game.Planet(1).Owner = 10;
     game.RedModifier = 0;
     game.BlueModifier = 18;
     game.GreenModifier = MaxModifier;

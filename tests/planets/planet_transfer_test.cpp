@@ -55,16 +55,6 @@ TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
     EXPECT_EQ(List(state, 4), std::vector<int>(100, 9));
 }
 
-TEST(PlanetTransfer, SomeDropsAreRefused) {
-    GameState state;
-    state.View.BoardPlayer = 2;
-    for (const auto& [owner, planet, accepted] :
-         {std::tuple{3, 7, true}, std::tuple{NeutralOwner, 0, true}, std::tuple{2, 7, false},
-          std::tuple{AllPlanets, 7, false}, std::tuple{3, int{NoPlanet}, false}}) {
-        EXPECT_EQ(AcceptsDrop(state, owner, planet), accepted) << owner << ", " << planet;
-    }
-}
-
 TEST(PlanetText, SaysWhoseThePlanetIsAndWhatItBrings) {
     GameState state = GameOfTwentyPlanets();
     state.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
