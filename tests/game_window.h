@@ -2,12 +2,10 @@
 #pragma once
 
 #include "app/korvane.h"
-#include "dialogs/load_form.h"
 #include "planets/planet_list_file.h"
 #include "tests/window_test.h"
 
-#include <QAction>
-#include <QScreen>
+#include <QComboBox>
 
 namespace ksm {
 
@@ -46,24 +44,48 @@ struct GameWindow {
     Control* Find(const char* array, int index) const {
         return Find<Control>(ElementName(array, index).toLatin1().constData());
     }
+
     std::string Caption(const char* array, int index) const {
         return Find(array, index)->Caption().toStdString();
     }
     QColor Back(const char* array, int index) const {
         return Find(array, index)->palette().color(QPalette::Window);
     }
-    /// What is on the screen: a change that nobody had painted is not.
-    QImage OnScreen() const {
-        QCoreApplication::processEvents();
-        return window.screen()->grabWindow(window.winId()).toImage();
-    }
 
     void Click(QWidget* control) const { QTest::mouseClick(control, Qt::LeftButton); }
     void Click(const char* name) const { Click(Find<QWidget>(name)); }
     void Click(const char* array, int index) const { Click(Find<QWidget>(array, index)); }
     void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
-    void SetPlayerCount(int players) const {
-        Find<QScrollBar>("PlayNumScroll")->setValue(11 - players);
+    void Move(const char* bar, int value) const { Find<QScrollBar>(bar)->setValue(value); }
+    void Race(int player, ksm::Race race) const {
+        emit Find<QComboBox>("Race", player)->activated(static_cast<int>(race));
+    }
+    void Close(const char* dialog) const {
+        Find<QWidget>(dialog)->close();
+        DeleteClosed();
+    }
+
+    QWidget* Row(int row) const { return Find<QWidget>("InvasionPlanet", row); }
+    QWidget* Owner(int owner) const { return Find<QWidget>("InvasionPlayer", owner); }
+    void Press(int row) const { QTest::mousePress(Row(row), Qt::LeftButton, {}, QPoint(3, 3)); }
+    /// With the button held, as the platform reports it.
+    void MoveOver(int row, const QWidget* target) const {
+        const QPoint place = target->mapToGlobal(target->rect().center());
+        QMouseEvent move(QEvent::MouseMove, Row(row)->mapFromGlobal(place), place, Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(Row(row), &move);
+    }
+    void DropOn(int row, const QWidget* target) const {
+        DropOn(row, target, target->rect().center());
+    }
+    void DropOn(int row, const QWidget* target, QPoint place) const {
+        QTest::mouseRelease(Row(row), Qt::LeftButton, {},
+                            Row(row)->mapFromGlobal(target->mapToGlobal(place)));
+    }
+    void Drag(int row, int owner) const {
+        Press(row);
+        MoveOver(row, Owner(owner));
+        DropOn(row, Owner(owner));
     }
     /// Keyboard focus and shortcuts need the active window.
     void Activate() {
@@ -71,42 +93,6 @@ struct GameWindow {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
     void Start() const { Click("StartGameButton"); }
-    void Agree(int one, int other) const {
-        Click("AddTAbutton");
-        Click("TradePlayer", one);
-        Click("TradePlayer", other);
-    }
-    /// Puts a game in force the way the load dialog does.
-    void Load(const GameState& loaded) const {
-        Choose("LGame");
-        auto* form = Find<LoadForm>("LoadForm");
-        emit form->GameLoaded(loaded);
-        form->close();
-        DeleteClosed();
-    }
-
-    // A drag by mouse, of the planet in a row of the board.
-    CaptionLabel* Row(int row) const { return Find("InvasionPlanet", row); }
-    /// The middle of a control, as a place in the dragged label.
-    QPoint Over(int row, const QWidget* target) const {
-        return Row(row)->mapFromGlobal(target->mapToGlobal(target->rect().center()));
-    }
-    void Press(int row) const { QTest::mousePress(Row(row), Qt::LeftButton, {}, QPoint(3, 3)); }
-    void MoveOver(int row, int owner) const {
-        const QPoint place = Over(row, Find("InvasionPlayer", owner));
-        // With the button held, as the platform reports it.
-        QMouseEvent move(QEvent::MouseMove, place, Row(row)->mapToGlobal(place), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(Row(row), &move);
-    }
-    void DropOn(int row, const QWidget* target) const {
-        QTest::mouseRelease(Row(row), Qt::LeftButton, {}, Over(row, target));
-    }
-    void Drag(int row, int owner) const {
-        Press(row);
-        MoveOver(row, owner);
-        DropOn(row, Find("InvasionPlayer", owner));
-    }
 };
 
 } // namespace ksm

@@ -45,6 +45,11 @@ struct Evening : GameWindow {
         Click("ColorOK");
         DeleteClosed();
     }
+    void Agree(int one, int other) const {
+        Click("AddTAbutton");
+        Click("TradePlayer", one);
+        Click("TradePlayer", other);
+    }
     void Play() {
         const int players = state.NumPlayers;
         Start();
@@ -139,7 +144,7 @@ QImage DragInMidAir() {
     Evening evening(6);
     evening.Start();
     evening.Press(3);
-    evening.MoveOver(3, 5);
+    evening.MoveOver(3, evening.Owner(5));
     return Grab(evening.window, QRect(0, 0, 340, 220));
 }
 
@@ -190,10 +195,10 @@ QImage Modifiers() {
 }
 
 QImage Message() {
-    ExpectedBox box;
+    const MessageBoxes boxes;
     ShowMessage(QMessageBox::Critical, "Title", "As <b>typed</b> & no other",
                 "A <i>reason</i> of two lines\nthat helps");
-    return box.Picture;
+    return boxes.Seen;
 }
 
 template<int Size>

@@ -14,22 +14,24 @@ public:
     /// Does one thing that a person can do just then.
     void Step();
 
-    /// Drags the planet in a row of the board onto an owner.
-    void Drag(int row, int owner);
-
 private:
-    void SetUpSomething();
-    void PlaySomething();
-    void TradeSomething();
-    void DragSomething();
-    void MoveOver(QWidget* row, const QWidget* target);
+    void SetUp();
+    void Change();
+    void Look();
+    void Trade();
+    void Drag();
     void NameSomebody();
     void ModifyCosts();
     void WriteNotes();
+
     int Pick(int least, int most) {
         return std::uniform_int_distribution<int>(least, most)(random);
     }
+    const char* Any(const std::vector<const char*>& names) {
+        return names[static_cast<std::size_t>(Pick(0, static_cast<int>(names.size()) - 1))];
+    }
     int Player() { return Pick(1, game.state.NumPlayers); }
+    char Letter() { return static_cast<char>(Pick('a', 'z')); }
 
     GameWindow& game;
     std::mt19937 random;

@@ -6,42 +6,20 @@
 #include "controls/look.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 
 #include <gtest/gtest.h>
 
 namespace ksm {
-
-/// The message box that the test brings about while this object lives. It is closed at once, as is
-/// every other box, which fails the test.
-class ExpectedBox : public QObject {
-public:
-    ExpectedBox() { qApp->installEventFilter(this); }
-    ~ExpectedBox() override { EXPECT_EQ(Said.size(), 3) << "no message box was shown"; }
-    Q_DISABLE_COPY_MOVE(ExpectedBox)
-
-    QStringList Said; ///< its title, text and reason
-    QImage Picture;
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        auto* box = qobject_cast<QMessageBox*>(watched);
-        if (box && event->type() == QEvent::Show) {
-            box->setProperty("Expected", true);
-            Said = {box->windowTitle(), box->text(), box->informativeText()};
-        } else if (box && event->type() == QEvent::Hide) {
-            Picture = box->grab().toImage();
-        }
-        return false;
-    }
-};
 
 /// Deletes the windows that were closed, as the event loop would.
 inline void DeleteClosed() {
@@ -53,5 +31,54 @@ bool IsUnloaded(const QPointer<Window>& window) {
     DeleteClosed();
     return window.isNull();
 }
+
+/// The window as it should be painted now.
+inline QImage Picture(QWidget& window) {
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// What stands on the screen: something that was not painted anew is still seen as it was.
+inline QImage OnScreen(const QWidget& window) {
+    QCoreApplication::processEvents();
+    const QPixmap seen = window.screen()->grabWindow(window.winId());
+    return seen.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// What is read where the text, marked up or not, is shown.
+inline QString AsRead(const QString& text) {
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+/// Closes the message boxes that open while it lives. Without it a box fails the test.
+class MessageBoxes : public QObject {
+public:
+    explicit MessageBoxes(bool areExpected = true) : expected(areExpected) {
+        qApp->installEventFilter(this);
+    }
+
+    QStringList Said; ///< title, text and reason of each, as they are read
+    QImage Seen;      ///< the last one
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* box = qobject_cast<QMessageBox*>(watched);
+        if (box && event->type() == QEvent::Show && !box->property("Read").toBool()) {
+            box->setProperty("Read", true);
+            const bool plain = box->textFormat() == Qt::PlainText;
+            Said << box->windowTitle() << (plain ? box->text() : AsRead(box->text()))
+                 << AsRead(box->informativeText());
+            EXPECT_TRUE(expected) << "an unexpected message box: " << Said.join('|').toStdString();
+            const auto close = [this, box] {
+                Seen = Picture(*box);
+                box->accept();
+            };
+            QMetaObject::invokeMethod(box, close, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    bool expected;
+};
 
 } // namespace ksm

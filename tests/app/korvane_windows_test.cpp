@@ -1,43 +1,42 @@
 // The windows that the menus open, and what they do to the main window.
 
-#include "dialogs/dice_form.h"
-#include "dialogs/load_form.h"
-#include "dialogs/note_form.h"
-#include "dialogs/tech_form.h"
-#include "economy/value_update.h"
-#include "saves/game_file.h"
 #include "tests/game_window.h"
-#include "tests/saves/sample_game.h"
-
-#include <QCheckBox>
-#include <QPlainTextEdit>
 
 namespace ksm {
 namespace {
 
 TEST(Windows, OneInstanceIsShownAgainAndClosesWithTheMainWindow) {
-    GameWindow game;
-    for (const char* item : {"Notes", "Dice", "Notes", "Dice"}) {
-        game.Choose(item);
-    }
-    EXPECT_EQ(game.window.findChildren<NoteForm*>().size(), 1);
-    EXPECT_EQ(game.window.findChildren<DiceForm*>().size(), 1);
-    const QPointer notes(game.Find<QWidget>("NoteForm"));
-    const QPointer dice(game.Find<QWidget>("DiceForm"));
-    EXPECT_FALSE(dice->isModal());
-    game.window.close();
-    DeleteClosed();
-    EXPECT_TRUE(notes.isNull() && dice.isNull());
-}
-
-TEST(Windows, TheMenusOpenTheirWindowsModally) {
-    for (const auto& [item, opened] :
-         {std::pair{"Stech", "TechForm"}, std::pair{"HTech", "TechForm2"},
-          std::pair{"MenuTechMod", "TechModForm"}, std::pair{"About", "AboutForm"},
-          std::pair{"LGame", "LoadForm"}, std::pair{"SGame", "SaveForm"}}) {
+    for (const auto& [item, name] :
+         {std::pair{"Notes", "NoteForm"}, std::pair{"Dice", "DiceForm"}}) {
         GameWindow game;
         game.Choose(item);
-        EXPECT_TRUE(game.Find<QWidget>(opened)->isModal()) << opened;
+        const QPointer form(game.Find<QWidget>(name));
+        EXPECT_FALSE(form->isModal());
+        form->hide();
+        game.Choose(item);
+        EXPECT_TRUE(form->isVisible()) << name;
+        EXPECT_EQ(game.window.findChildren<QWidget*>(name).size(), 1) << name;
+        game.window.close();
+        EXPECT_TRUE(IsUnloaded(form)) << name;
+    }
+}
+
+TEST(Windows, TheMenusAndTheirKeysOpenModalWindows) {
+    const std::tuple<const char*, const char*, Qt::Key> rows[]{
+        {"LoadForm", "LGame", Qt::Key_F1},         {"SaveForm", "SGame", Qt::Key_F2},
+        {"TechForm", "Stech", Qt::Key_F5},         {"TechForm2", "HTech", Qt::Key_F6},
+        {"TechModForm", "MenuTechMod", Qt::Key()}, {"AboutForm", "About", Qt::Key()}};
+    for (const auto& [form, item, key] : rows) {
+        GameWindow game;
+        game.Activate();
+        game.Choose(item);
+        EXPECT_TRUE(game.Find<QWidget>(form)->isModal()) << form;
+        game.Close(form);
+        if (key != Qt::Key()) {
+            game.Activate();
+            QTest::keyClick(&game.window, key);
+            game.Close(form);
+        }
     }
 }
 
@@ -47,98 +46,86 @@ TEST(Modifiers, EachBarChangesTheCostsOfItsColourAndReopensAtZero) {
         {1, "PlayerBlueTech", 12, "+3", "33"},
         {2, "PlayerRedTech", 30, "-15", "15"},
         {3, "PlayerYellowTech", 16, "-1", "29"}};
-    GameWindow game;
-    game.Choose("MenuTechMod");
     for (const auto& [index, cost, position, caption, expected] : moves) {
-        game.Find<QScrollBar>("VScroll1", index)->setValue(position);
+        GameWindow game;
+        game.Choose("MenuTechMod");
+        const auto bar = [&, at = index] { return game.Find<QScrollBar>("VScroll1", at); };
+        bar()->setValue(position);
         EXPECT_EQ(game.Find("TechModLabel", index)->ShownText(), caption);
-        EXPECT_EQ(game.Caption(cost, 4), expected);
-        game.Find<QWidget>("TechModForm")->close();
-        DeleteClosed();
+        game.Close("TechModForm");
         game.Choose("MenuTechMod");
         EXPECT_EQ(game.Caption("TechModLabel", index), "0");
         EXPECT_EQ(game.Caption(cost, 4), expected) << "the modifier stays in force";
-        auto* bar = game.Find<QScrollBar>("VScroll1", index);
-        QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(8, 77));
+        QTest::mouseClick(bar(), Qt::LeftButton, {}, QPoint(8, 77));
         EXPECT_EQ(game.Caption(cost, 4), "29") << "from the position alone";
-        QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(8, 4));
-        EXPECT_EQ(game.Caption("TechModLabel", index), "0");
     }
 }
 
-/// Puts a game in force the way the load dialog does.
-void Load(const GameWindow& game, const GameState& loaded) {
-    game.Choose("LGame");
-    auto* form = game.Find<LoadForm>("LoadForm");
-    emit form->GameLoaded(loaded);
-    form->close();
-    DeleteClosed();
+/// The name dialog of player 3, opened by a click on the name.
+struct NameDialog : GameWindow {
+    NameDialog() {
+        Start();
+        Click("PlayerName", 3);
+    }
+
+    QLineEdit* Entry(const char* name) const { return Find<QLineEdit>(name); }
+    std::string Captions() const {
+        return Caption("PlayerName", 3) + "|" + Caption("InvasionPlayer", 3) + "|" +
+               Caption("TradePlayer", 3) + "|" + Entry("ShortNameEntry")->text().toStdString();
+    }
+};
+
+TEST(NameDialog, OpensBelowTheNameAndEveryKeyShowsAtOnce) {
+    NameDialog dialog;
+    const auto* form = dialog.Find<QWidget>("ColorSelectForm");
+    EXPECT_TRUE(form->isModal());
+    EXPECT_EQ(form->pos(),
+              dialog.window.pos() + dialog.Find("PlayerName", 3)->pos() + QPoint(0, 67));
+    EXPECT_EQ(dialog.Captions(), "|||") << "the design text counts as no name";
+    for (const auto& [typed, captions] : {std::pair{"A", "A|A|A|A"}, std::pair{"d", "Ad|Ad|Ad|Ad"},
+                                          std::pair{"elheid", "Adelheid|Adelheid|Ade|Ade"}}) {
+        QTest::keyClicks(dialog.Entry("NameEntry"), typed);
+        EXPECT_EQ(dialog.Captions(), captions);
+    }
+    dialog.Entry("ShortNameEntry")->setText("Heidi");
+    EXPECT_EQ(dialog.Captions(), "Adelheid|Adelheid|Heidi|Heidi");
+    dialog.Entry("NameEntry")->setText(QString::fromUtf8("e\u0301a\U0001F680bc"));
+    EXPECT_EQ(dialog.Caption("TradePlayer", 3), "e\u0301a\U0001F680") << "three characters";
+    dialog.Click("NameColor", 3);
+    dialog.Click("NameColor", 12);
+    EXPECT_EQ(dialog.Back("PlayerName", 3), QColor(0, 0, 128));
+    EXPECT_EQ(dialog.Back("TradePlayer", 3), QColor(0, 0, 128));
 }
 
-TEST(LoadedGame, ComesBackAsItWasInAnotherProcess) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("evening.ksm");
-    GameState rich = SampleGame();
-    rich.Started = true;
-    UpdateValues(rich);
-
-    GameWindow first;
-    Load(first, rich);
-    const GameState shown = first.state;
-    ASSERT_EQ(SaveGameFile(path, first.state), QString());
-
-    GameWindow second;
-    second.Find<QScrollBar>("PlayNumScroll")->setValue(2);
-    second.Click("Enviro", 1);
-    const ReadGameResult saved = LoadGameFile(path);
-    ASSERT_TRUE(saved.Game) << saved.Problem.toStdString();
-    Load(second, *saved.Game);
-    EXPECT_EQ(second.state, shown);
-    const auto picture = [](GameWindow& game) {
-        return game.window.centralWidget()->grab().toImage();
-    };
-    EXPECT_EQ(picture(second), picture(first));
-}
-
-TEST(LoadedGame, ChangesThePhaseBothWays) {
-    GameWindow game;
-    GameState loaded = GameOfTwentyPlanets();
-    for (const bool started : {true, false, true}) {
-        loaded.Started = started;
-        loaded.NumPlayers = started ? 3 : 6;
-        Load(game, loaded);
-        EXPECT_EQ(game.Find<QWidget>("GameSetupPic")->isHidden(), started);
-        EXPECT_EQ(game.Find<QWidget>("Race", 3)->isHidden(), started);
-        EXPECT_EQ(game.Find<QWidget>("PlayerName", 6)->isHidden(), started);
-        EXPECT_TRUE(game.Find<QWidget>("Race", 7)->isHidden());
+TEST(NameDialog, OpeningAgainResetsTheShortNameUnlessTheNameIsTheDesignText) {
+    for (const auto& [name, shortName] : {std::pair{"Adelheid", "Ade"}, std::pair{"Name", "xy"}}) {
+        NameDialog dialog;
+        dialog.Entry("NameEntry")->setText(name);
+        dialog.Entry("ShortNameEntry")->setText("xy");
+        dialog.Close("ColorSelectForm");
+        dialog.Click("PlayerName", 3);
+        EXPECT_EQ(dialog.Entry("NameEntry")->text(), name);
+        EXPECT_EQ(dialog.Caption("TradePlayer", 3), shortName);
     }
 }
 
-// The boxes' handlers would enable and disable by the rule, which history may contradict.
-TEST(LoadedGame, KeepsWhichBoxesCanBeTicked) {
-    GameWindow game;
-    game.Click("Enviro", 2);
-    GameState loaded = GameOfTwentyPlanets();
-    loaded.Player(2).Micro = loaded.Player(2).MicroEnabled = true;
-    Load(game, loaded);
-    EXPECT_FALSE(game.Find<QCheckBox>("Enviro", 2)->isChecked());
-    EXPECT_FALSE(game.Find<QCheckBox>("PellamTools", 2)->isEnabled());
-    EXPECT_TRUE(game.Find<QCheckBox>("Micro", 2)->isChecked());
-    EXPECT_EQ(game.state.Player(2).MicroEnabled, true);
-}
-
-TEST(LoadedGame, OpenNotesShowTheLoadedTextForGood) {
-    GameWindow game;
-    game.Choose("Notes");
-    auto* box = game.Find<QPlainTextEdit>("Aant");
-    QTest::keyClicks(box, "old");
-    GameState loaded = GameOfTwentyPlanets();
-    loaded.NotesText = "new";
-    Load(game, loaded);
-    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(game.state.NotesText, "new");
-    QTest::keyClicks(box, "er");
-    EXPECT_EQ(game.state.NotesText, "newer") << "writing goes on at the end";
+TEST(NameDialog, EnterConfirmsOnceEscapeDoesNothingAndClosingDoesNotRank) {
+    for (const auto& [control, key, place] : {std::tuple{"NameEntry", Qt::Key_Enter, "Ada"},
+                                              std::tuple{"ShortNameEntry", Qt::Key_Return, "Ada"},
+                                              std::tuple{"ColorOK", Qt::Key_Enter, "Ada"},
+                                              std::tuple{"NameEntry", Qt::Key_Escape, ""}}) {
+        SCOPED_TRACE(control);
+        NameDialog dialog;
+        const QPointer form(dialog.Find<QWidget>("ColorSelectForm"));
+        const QSignalSpy confirmed(form, SIGNAL(Confirmed()));
+        QTest::keyClicks(dialog.Entry("NameEntry"), "Ada");
+        QTest::keyClick(dialog.Find<QWidget>(control), key);
+        EXPECT_EQ(confirmed.count(), key != Qt::Key_Escape);
+        EXPECT_EQ(IsUnloaded(form), key != Qt::Key_Escape);
+        delete form;
+        EXPECT_EQ(dialog.Caption("PlayerName", 3), "Ada");
+        EXPECT_EQ(dialog.Caption("PolPlay", 3), place);
+    }
 }
 
 } // namespace

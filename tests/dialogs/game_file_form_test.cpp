@@ -1,3 +1,4 @@
+#include "controls/message_box.h"
 #include "dialogs/load_form.h"
 #include "dialogs/save_form.h"
 #include "saves/game_file.h"
@@ -24,11 +25,9 @@ protected:
         form->show();
     }
     QLineEdit* Box() const { return form->findChild<QLineEdit*>("FileNam"); }
-    QListWidget* List() const { return form->findChild<QListWidget*>("File1"); }
     void Press(const char* button) const {
         QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
     }
-    QPoint Row(int row) const { return List()->visualItemRect(List()->item(row)).center(); }
     const QString oldFolder = QDir::currentPath();
     QTemporaryDir folder;
     QWidget owner;
@@ -39,76 +38,83 @@ protected:
 TEST_F(GameFileForms, TheNameIsCompletedAndTheGameSaved) {
     for (const auto& [typed, used] :
          {std::pair{"savegame.ksm", "savegame.ksm"}, std::pair{"game1", "game1.ksm"},
-          std::pair{"A.KSM", "A.KSM.ksm"}, std::pair{"", ".ksm"}, std::pair{"ksm", "ksm.ksm"}}) {
+          std::pair{"A.KSM", "A.KSM.ksm"}, std::pair{"", ".ksm"}}) {
         Open(new SaveForm(game, &owner));
         EXPECT_EQ(Box()->text(), "savegame.ksm");
         Box()->setText(typed);
         Press("Sav");
-        EXPECT_TRUE(IsUnloaded(form)) << typed;
-        EXPECT_TRUE(LoadGameFile(used).Game) << typed;
+        EXPECT_TRUE(IsUnloaded(form) && LoadGameFile(used).Game) << typed;
     }
-    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 5);
+    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 4);
 }
 
-TEST_F(GameFileForms, AFailureIsToldAndTheDialogStays) {
-    QDir().mkdir("taken.ksm");
-    auto* load = new LoadForm(&owner);
-    QSignalSpy loaded(load, &LoadForm::GameLoaded);
+TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
+    QDir().mkdir("<b>.ksm");
     const std::tuple<GameFileForm*, const char*, const char*, const char*> failures[]{
         {new SaveForm(game, &owner), "Sav", "Error Saving File",
          "An error occured saving the file."},
-        {load, "Loa", "Error Loading File", "An error occured loading the file."}};
+        {new LoadForm(&owner), "Loa", "Error Loading File", "An error occured loading the file."}};
     for (const auto& [opened, button, title, text] : failures) {
         delete form;
         Open(opened);
-        Box()->setText("taken");
-        ExpectedBox box;
+        Box()->setText("<b>");
+        const MessageBoxes boxes;
         Press(button);
-        ASSERT_EQ(box.Said.size(), 3);
-        EXPECT_EQ(box.Said.first(2), QStringList({title, text}));
-        EXPECT_NE(box.Said[2], "");
+        ASSERT_EQ(boxes.Said.size(), 3);
+        EXPECT_EQ(boxes.Said.first(2), QStringList({title, text}));
+        EXPECT_TRUE(boxes.Said[2].startsWith("\"<b>.ksm\" in the folder"));
         EXPECT_FALSE(IsUnloaded(form));
-        EXPECT_EQ(Box()->text(), "taken.ksm");
     }
-    EXPECT_EQ(loaded.count(), 0);
+    const MessageBoxes boxes;
+    ShowMessage(QMessageBox::Warning, "Title", "<b>Ann & Bob</b>", "", &owner);
+    EXPECT_EQ(boxes.Said, QStringList({"Title", "<b>Ann & Bob</b>", ""}));
 }
 
 TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
-    SaveGameFile("first.ksm", GameState());
-    SaveGameFile("second.ksm", game);
-    SaveGameFile("other.txt", game);
-    SaveGameFile("capital.KSM", game);
+    for (const char* name : {"first.ksm", "second.ksm", "other.txt", "capital.KSM"}) {
+        SaveGameFile(name, name == QString("second.ksm") ? game : GameState());
+    }
     auto* load = new LoadForm(&owner);
     Open(load);
     QByteArrayList loaded;
     QObject::connect(load, &LoadForm::GameLoaded,
                      [&](const GameState& read) { loaded << WriteGame(read); });
-    ASSERT_EQ(List()->count(), 2);
+    auto* list = form->findChild<QListWidget*>("File1");
+    const auto row = [&](int at) { return list->visualItemRect(list->item(at)).center(); };
+    ASSERT_EQ(list->count(), 2);
     EXPECT_EQ(Box()->text(), "savegame.ksm") << "no file is picked before the user picks one";
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, Row(0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(0));
     EXPECT_EQ(Box()->text(), "first.ksm");
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, Row(1));
-    QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, Row(1));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(1));
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row(1));
     EXPECT_EQ(loaded, QByteArrayList{WriteGame(game)});
     EXPECT_TRUE(IsUnloaded(form));
 }
 
-TEST_F(GameFileForms, ReturnConfirmsOnceAndEscapeCancels) {
-    Open(new SaveForm(game, &owner));
-    QTest::keyClick(Box(), Qt::Key_Escape);
-    EXPECT_TRUE(IsUnloaded(form));
-    Open(new SaveForm(game, &owner));
-    Press("Cance");
-    EXPECT_TRUE(IsUnloaded(form));
+TEST_F(GameFileForms, ReturnConfirmsOnceAndEscapeOrCancelSavesNothing) {
+    for (const bool byKey : {true, false}) {
+        Open(new SaveForm(game, &owner));
+        byKey ? QTest::keyClick(Box(), Qt::Key_Escape) : Press("Cance");
+        EXPECT_TRUE(IsUnloaded(form));
+    }
     EXPECT_TRUE(QDir().entryList(QDir::Files).empty());
-
     SaveGameFile("savegame.ksm", game);
     for (const char* control : {"FileNam", "File1", "Loa"}) {
         Open(new LoadForm(&owner));
-        QSignalSpy loaded(form, SIGNAL(GameLoaded(ksm::GameState)));
+        const QSignalSpy loaded(form, SIGNAL(GameLoaded(ksm::GameState)));
         QTest::keyClick(form->findChild<QWidget*>(control), Qt::Key_Return);
         EXPECT_EQ(loaded.count(), 1) << control;
         EXPECT_TRUE(IsUnloaded(form)) << control;
+    }
+}
+
+TEST_F(GameFileForms, TabGoesFromTheButtonsToListAndName) {
+    Open(new LoadForm(&owner));
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    for (const char* control : {"Loa", "Cance", "File1", "FileNam", "Loa"}) {
+        EXPECT_EQ(form->focusWidget()->objectName(), control);
+        QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
     }
 }
 
@@ -117,7 +123,6 @@ TEST_F(GameFileForms, ClickingTheNameLeavesTheExtensionOnly) {
     QTest::keyClick(Box(), Qt::Key_X);
     EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
     QTest::mouseClick(Box(), Qt::LeftButton);
-    EXPECT_EQ(Box()->text(), ".ksm");
     QTest::keyClicks(Box(), "mine");
     EXPECT_EQ(Box()->text(), "mine.ksm");
 }

@@ -7,260 +7,171 @@
 namespace ksm {
 namespace {
 
-const QColor Yellow(0xFF, 0xFF, 0x00);
-const QColor Red(0xFF, 0x00, 0x00);
-const QColor Face(239, 239, 239);
-
-/// A game in play, with players who own planets.
+/// A game in play. Planets 4 to 18 belong to player 2, planet 19 to player 6, the others to nobody.
 struct Board : GameWindow {
-    Board() {
+    explicit Board(int listed = AllPlanets) {
         Start();
         for (int planet = 4; planet < 20; ++planet) {
-            state.Planet(planet).Owner = 2;
+            state.Planet(planet).Owner = planet == 19 ? 6 : 2;
         }
         window.UpdateValues();
+        Click("InvasionPlayer", listed);
     }
 
-    QWidget* Row(int row) const { return Find<QWidget>("InvasionPlanet", row); }
     std::string Tag(int row) const { return Row(row)->property("Tag").toString().toStdString(); }
-
-    static char Letter(const QColor& colour) {
-        return colour == Red ? 'R' : colour == Yellow ? 'Y' : colour == Face ? '.' : '?';
-    }
-    /// The colours of the pool, players 1 to 6 and "All planets".
-    std::string Owners() const {
+    /// The colours of the pool, players 1 to 6, "All planets" and the first two rows.
+    std::string Colours() const {
         std::string letters;
+        const auto add = [&](const QWidget* label) {
+            const QColor colour = label->palette().color(QPalette::Window);
+            letters += colour == QColor(Qt::red) ? 'R' : colour == QColor(Qt::yellow) ? 'Y' : '.';
+        };
         for (const int owner : {0, 1, 2, 3, 4, 5, 6, AllPlanets}) {
-            letters += Letter(Back("InvasionPlayer", owner));
+            add(Owner(owner));
         }
+        add(Row(0));
+        add(Row(1));
         return letters;
     }
-    char RowColour(int row) const { return Letter(Back("InvasionPlanet", row)); }
-
-    void Press(int row) const { QTest::mousePress(Row(row), Qt::LeftButton, {}, QPoint(3, 3)); }
-    /// The middle of a control, as a place in the dragged label.
-    QPoint Over(int row, const QWidget* target) const {
-        return Row(row)->mapFromGlobal(target->mapToGlobal(target->rect().center()));
-    }
-    void MoveOver(int row, int owner) const {
-        const QPoint place = Over(row, Find("InvasionPlayer", owner));
-        // With the button held, as the platform reports it.
-        QMouseEvent move(QEvent::MouseMove, place, Row(row)->mapToGlobal(place), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(Row(row), &move);
-    }
-    void DropOn(int row, const QWidget* target) const {
-        QTest::mouseRelease(Row(row), Qt::LeftButton, {}, Over(row, target));
-    }
-    void Drag(int row, int owner) const {
-        Press(row);
-        MoveOver(row, owner);
-        DropOn(row, Find("InvasionPlayer", owner));
-    }
+    void Key(Qt::Key key) const { QTest::keyClick(Row(0), key); }
 };
 
-TEST(PlanetBoard, StartsWithTheFirstPageOfAllPlanets) {
-    Board board;
-    EXPECT_EQ(board.Caption("InvasionPlanet", 0), "Quessin");
-    EXPECT_EQ(board.Caption("InvasionResInf", 0), "2 1");
-    EXPECT_EQ(board.Tag(11), "11");
-    EXPECT_EQ(board.Owners(), ".......Y");
-    EXPECT_EQ(board.Back("InvasionResInf", 1), QColor(0x40, 0x40, 0xFF));
-    EXPECT_EQ(board.Find<QScrollBar>("PlanetScroller")->maximum(), 8);
-}
-
-TEST(PlanetBoard, AnOwnersViewIsListedFromThePresentPosition) {
+TEST(PlanetBoard, AClickListsAnOwnerFromThePresentPosition) {
     Board board;
     auto* scroller = board.Find<QScrollBar>("PlanetScroller");
+    EXPECT_EQ(board.Tag(11), "11");
+    EXPECT_EQ(scroller->maximum(), 8);
     scroller->setValue(8);
     board.Click("InvasionPlayer", 2);
-    EXPECT_EQ(scroller->value(), 4) << "lowered to the end of sixteen planets";
-    EXPECT_EQ(board.Tag(0) + "-" + board.Tag(11), "8-19");
+    EXPECT_EQ(scroller->value(), 3) << "lowered to the end of fifteen planets";
+    EXPECT_EQ(board.Tag(0) + "-" + board.Tag(11), "7-18");
     board.Click("InvasionPlayer", 5);
     EXPECT_EQ(board.Tag(0) + board.Caption("InvasionPlanet", 0), "255");
     EXPECT_GT(board.Row(0)->width(), 20) << "an empty row can be dragged";
-    EXPECT_EQ(board.Back("InvasionResInf", 1), Face);
-    EXPECT_EQ(board.Owners(), ".....Y..");
 }
 
-TEST(PlanetBoard, DroppingAPlanetGivesItAndListsAgain) {
-    Board board;
-    board.Drag(0, 3);
-    EXPECT_EQ(board.state.Planet(0).Owner, 3);
-    EXPECT_EQ(board.Caption("PlayerResources", 3), "2");
-    EXPECT_EQ(board.Tag(0), "0") << "all planets are still listed";
-    const GameState before = board.state;
-    board.Drag(0, 3);
-    EXPECT_EQ(board.state, before) << "its owner has it already";
-    EXPECT_EQ(board.Owners() + board.RowColour(0), ".......Y.");
-
-    board.Click("InvasionPlayer", 2);
-    board.Drag(0, NeutralOwner);
-    EXPECT_EQ(board.state.Planet(4).Owner, NeutralOwner);
-    EXPECT_EQ(board.Tag(0), "5") << "the later rows move up";
-    EXPECT_EQ(board.Owners(), "..Y.....");
-}
-
-TEST(PlanetBoard, TheOwnerUnderTheDragIsRedAndTheListedOneStaysYellow) {
-    Board board;
-    board.Click("InvasionPlayer", 2);
-    board.Press(1);
-    EXPECT_EQ(board.RowColour(1), '.');
-    board.MoveOver(1, 4);
-    board.MoveOver(1, 2);
-    EXPECT_EQ(board.Owners(), "..Y.R...") << "stays red until another is passed over";
-    board.MoveOver(1, 5);
-    EXPECT_EQ(board.Owners() + board.RowColour(1), "..Y..R..R");
-    const QPoint panel = board.Find<QWidget>("InvasionPic")->mapToGlobal(QPoint(60, 177));
-    QTest::mouseRelease(board.Row(1), Qt::LeftButton, {}, board.Row(1)->mapFromGlobal(panel));
-    EXPECT_EQ(board.Owners() + board.RowColour(1), "..Y......");
-}
-
-TEST(PlanetBoard, RefusedDropsAndDropsElsewhereLeaveTheColours) {
-    Board board;
-    board.Click("InvasionPlayer", 2);
-    const auto before = static_cast<const Game&>(board.state);
-    for (const char* target :
-         {"InvasionPlayer(2)", "InvasionPlayer(20)", "InvasionPlanet(5)", "AddTAbutton"}) {
-        board.Press(1);
-        board.MoveOver(1, 6);
-        board.DropOn(1, board.Find<QWidget>(target));
-        EXPECT_EQ(board.Owners() + board.RowColour(1), "..Y...R.R") << target;
-    }
-    EXPECT_TRUE(board.state == before);
-    board.Click("InvasionPlayer", 5);
-    board.Drag(7, 6);
-    EXPECT_EQ(board.Owners(), ".....YR.") << "an empty row can be dragged, not given";
-    EXPECT_EQ(board.state.Planets, before.Planets);
-}
-
-// A window, a menu, or something that got the release of the button.
-TEST(PlanetBoard, ADragThatSomethingComesBetweenEndsVisibly) {
-    const std::function<void(Board&)> disturbances[]{
-        [](Board& board) {
-            board.Choose("About");
-            board.Find<QWidget>("AboutForm")->close();
-        },
-        [](Board& board) {
-            board.Choose("Dice");
-            board.Find<QWidget>("DiceForm")->close();
-        },
-        [](Board& board) {
-            board.Find<QMenu>("MenuLaws")->popup(QPoint(0, 0));
-            board.Find<QMenu>("MenuLaws")->close();
-        },
-        [](Board& board) { QTest::mouseRelease(board.Find<QWidget>("TradePic"), Qt::LeftButton); }};
-    for (const auto& disturb : disturbances) {
-        Board board;
-        board.Press(0);
+TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
+    const struct {
+        int listed, row;
+        std::vector<int> over;
+        const char *target, *during, *after, *firstTag;
+        int planet, owner;
+    } rows[]{
+        {AllPlanets, 0, {3}, "InvasionPlayer(3)", "...R...YR.", ".......Y..", "0", 0, 3},
+        {AllPlanets, 1, {1, 0}, "InvasionPlayer(0)", "R......Y.R", ".......Y..", "0", 1, 0},
+        {2, 0, {1, 0}, "InvasionPlayer(0)", "R.Y.....R.", "..Y.......", "5", 4, 0},
+        // The mark stays until another owner is passed over, or the drop is cancelled.
+        {2, 1, {4, 2}, "InvasionPlayer(2)", "..Y.R....R", "..Y.R....R", "4", 5, 2},
+        {2, 1, {4, 6}, "InvasionPlayer(20)", "..Y...R..R", "..Y...R..R", "4", 5, 2},
+        {2, 1, {6}, "InvasionPlanet(5)", "..Y...R..R", "..Y...R..R", "4", 5, 2},
+        {2, 1, {6}, "AddTAbutton", "..Y...R..R", "..Y...R..R", "4", 5, 2},
+        {2, 1, {6}, "InvasionPic", "..Y...R..R", "..Y.......", "4", 5, 2},
+        {6, 0, {5}, "InvasionPlanet(1)", ".....RY.R.", "......Y...", "19", 19, 6},
+        {6, 0, {5}, "InvasionResInf(9)", ".....RY.R.", "......Y...", "19", 19, 6},
+        {5, 0, {6}, "InvasionPlayer(6)", ".....YR.R.", ".....YR.R.", "255", 0, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.listed << " listed, dropped on " << row.target);
+        Board board(row.listed);
+        const auto* target = board.Find<QWidget>(row.target);
+        board.Press(row.row);
+        for (const int owner : row.over) {
+            board.MoveOver(row.row, board.Owner(owner));
+        }
         auto* outline = board.Find<QWidget>("DragOutline");
-        EXPECT_TRUE(outline->isVisible()) << "from the press on";
-        board.MoveOver(0, 6);
-        disturb(board);
+        EXPECT_TRUE(outline->isVisible());
+        EXPECT_TRUE(OnScreen(board.window) == Picture(board.window)) << "not painted anew";
+        EXPECT_EQ(board.Colours(), row.during);
+        const bool isPanel = target == board.Find<QWidget>("InvasionPic");
+        board.DropOn(row.row, target, isPanel ? QPoint(60, 177) : target->rect().center());
         EXPECT_FALSE(outline->isVisible());
-        EXPECT_EQ(board.Owners() + board.RowColour(0), ".......Y.");
-        board.DropOn(0, board.Find("InvasionPlayer", 6));
-        EXPECT_EQ(board.state.Planet(0).Owner, NeutralOwner);
+        EXPECT_EQ(board.Colours(), row.after);
+        EXPECT_EQ(board.Tag(0), row.firstTag);
+        EXPECT_EQ(board.state.Planet(row.planet).Owner, row.owner);
     }
 }
 
-TEST(PlanetBoard, ADragGoesOnWhenTheBoardIsListedAgain) {
-    const std::function<void(Board&)> listings[]{
-        [](Board& board) { board.Find<QScrollBar>("PlanetScroller")->setValue(3); },
-        [](Board& board) { QTest::keyClick(board.Find("InvasionPlayer", 2), Qt::Key_Space); }};
-    for (const auto& list : listings) {
-        Board board;
-        board.Press(0);
-        list(board);
-        EXPECT_NE(board.Tag(0), "0");
-        board.MoveOver(0, 6);
-        EXPECT_EQ(board.Back("InvasionPlayer", 6), Red);
-        board.DropOn(0, board.Find("InvasionPlayer", 6));
-        EXPECT_EQ(board.state.Planet(0).Owner, 6) << "the planet that was pressed";
-    }
-}
+// What is dragged by mouse or carried by keyboard, and what comes between.
+TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
+    const struct {
+        const char* what;
+        std::function<void(Board&)> happens;
+        bool endsDrag, endsCarrying;
+    } rows[]{{"nothing", [](Board&) {}, false, false},
+             {"a modal window", [](Board& board) { board.Choose("About"); }, true, true},
+             {"a window beside", [](Board& board) { board.Choose("Dice"); }, true, false},
+             {"a menu", [](Board& board) { board.Find<QMenu>("MenuLaws")->popup({}); }, true, true},
+             {"a release", [](Board& board) { board.Click("TradePic"); }, true, true},
+             {"the scroll bar", [](Board& board) { board.Move("PlanetScroller", 3); }, false, true},
+             {"another list", [](Board& board) { QTest::keyClick(board.Owner(2), Qt::Key_Space); },
+              false, true},
+             {"the focus", [](Board& board) { board.Find<QWidget>("PlayerName", 1)->setFocus(); },
+              false, true}};
+    for (const auto& [what, happens, endsDrag, endsCarrying] : rows) {
+        SCOPED_TRACE(what);
+        Board dragging;
+        dragging.Press(0);
+        dragging.MoveOver(0, dragging.Owner(5));
+        happens(dragging);
+        EXPECT_EQ(dragging.Find<QWidget>("DragOutline")->isVisible(), !endsDrag);
+        EXPECT_EQ(dragging.Colours().find('R') == std::string::npos, endsDrag);
+        dragging.DropOn(0, dragging.Owner(6));
+        EXPECT_EQ(dragging.state.Planet(0).Owner, endsDrag ? NeutralOwner : 6);
 
-TEST(PlanetBoard, ADropOnAnEmptyRowCancels) {
-    Board board;
-    board.Click("InvasionPlayer", 2);
-    for (int planet = 4; planet < 17; ++planet) {
-        board.Drag(0, 3); // until three are left
+        Board carrying;
+        carrying.Activate();
+        carrying.Row(0)->setFocus();
+        carrying.Key(Qt::Key_Return);
+        carrying.Key(Qt::Key_Down);
+        happens(carrying);
+        EXPECT_EQ(carrying.Colours().find('R') == std::string::npos, endsCarrying);
+        carrying.Key(Qt::Key_Return);
+        EXPECT_EQ(carrying.state.Planet(0).Owner, endsCarrying ? NeutralOwner : 1);
+        EXPECT_EQ(carrying.state.Planet(4).Owner, 2);
     }
-    board.Press(0);
-    board.MoveOver(0, 6);
-    board.DropOn(0, board.Row(8));
-    EXPECT_EQ(board.Owners() + board.RowColour(0), "..Y......");
 }
 
 TEST(PlanetBoard, ADropOnAWindowOverTheBoardDoesNothing) {
     Board board;
     board.Choose("Notes");
-    auto* notes = board.Find<QWidget>("NoteForm");
-    notes->move(board.window.mapToGlobal(QPoint(150, 40)));
-    board.Press(0);
-    board.MoveOver(0, 6);
-    board.DropOn(0, board.Find("InvasionPlayer", 6));
+    board.Find<QWidget>("NoteForm")->move(board.window.mapToGlobal(QPoint(150, 40)));
+    board.Drag(0, 6);
     EXPECT_EQ(board.state.Planet(0).Owner, NeutralOwner);
-    EXPECT_EQ(board.Owners() + board.RowColour(0), "......RYR");
-    notes->close();
+    board.Close("NoteForm");
     board.Drag(0, 6);
     EXPECT_EQ(board.state.Planet(0).Owner, 6);
-}
-
-TEST(PlanetBoard, FiguresOfManyDigitsAreNotCut) {
-    GameWindow game;
-    game.state.Planet(0).Resources = game.state.Planet(0).Influence = 255;
-    game.Start();
-    game.Click("InvasionPlayer", NeutralOwner);
-    EXPECT_EQ(game.Find("InvasionResInf", 0)->ShownText(), "255 255");
+    EXPECT_EQ(board.Caption("PlayerResources", 6), "4") << "figures follow";
 }
 
 // The keyboard's way: Return picks up, arrows carry, Return sets down, Escape puts back.
 TEST(PlanetBoard, APlanetCanBeGivenAwayByKeyboard) {
-    Board board;
-    board.Click("InvasionPlayer", 2);
-    auto* row = board.Find("InvasionPlanet", 0);
-    QTest::keyClick(row, Qt::Key_Return);
+    Board board(2);
+    const auto heading = [&] { return board.Find("InvasionPlanet", 0)->Heading(); };
+    board.Key(Qt::Key_Return);
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QApplication::sendEvent(row, &repeated);
-    EXPECT_EQ(board.Owners(), "R.Y.....") << "a held Return only picks up";
-    QTest::keyClick(row, Qt::Key_Down);
-    EXPECT_EQ(row->Heading(), "Planet, row 1, over Player 1");
-    QTest::keyClick(row, Qt::Key_Down);
-    EXPECT_EQ(board.Owners(), "..YR....") << "passes over the listed owner";
-    QTest::keyClick(row, Qt::Key_Return);
+    QApplication::sendEvent(board.Row(0), &repeated);
+    EXPECT_EQ(board.Colours(), "R.Y.....R.") << "a held Return only picks up";
+    board.Key(Qt::Key_Down);
+    EXPECT_EQ(heading(), "Planet, row 1, over Player 1");
+    board.Key(Qt::Key_Down);
+    EXPECT_EQ(board.Colours(), "..YR....R.") << "passes over the listed owner";
+    board.Key(Qt::Key_Return);
     EXPECT_EQ(board.state.Planet(4).Owner, 3);
 
-    QTest::keyClick(row, Qt::Key_Return);
-    QTest::keyClick(row, Qt::Key_Up);
-    EXPECT_EQ(board.Owners(), "..Y...R.") << "round from the first owner to the last";
-    QTest::keyClick(row, Qt::Key_Escape);
-    EXPECT_EQ(board.Owners(), "..Y.....");
-    EXPECT_EQ(row->Heading(), "Planet, row 1");
+    board.Key(Qt::Key_Return);
+    board.Key(Qt::Key_Up);
+    EXPECT_EQ(board.Colours(), "..Y...R.R.") << "round from the first owner to the last";
+    board.Key(Qt::Key_Escape);
+    EXPECT_EQ(board.Colours(), "..Y.......");
+    EXPECT_EQ(heading(), "Planet, row 1");
     EXPECT_EQ(board.state.Planet(5).Owner, 2);
     board.Click("InvasionPlayer", 5);
-    QTest::keyClick(row, Qt::Key_Return);
-    EXPECT_EQ(board.RowColour(0), '.') << "an empty row has nothing to pick up";
-}
-
-// Whatever the mouse does meanwhile, only the planet that was picked up can be set down.
-TEST(PlanetBoard, TheMousePutsBackWhatTheKeyboardCarries) {
-    const std::pair<std::function<void(Board&)>, int> disturbances[]{
-        {[](Board&) {}, 1},
-        {[](Board& board) { board.Click("InvasionPlayer", 2); }, NeutralOwner},
-        {[](Board& board) { board.Find<QScrollBar>("PlanetScroller")->setValue(1); }, NeutralOwner},
-        {[](Board& board) { board.Drag(5, 6); }, NeutralOwner}};
-    for (const auto& [disturb, owner] : disturbances) {
-        Board board;
-        board.Activate();
-        board.Row(0)->setFocus();
-        QTest::keyClick(board.Row(0), Qt::Key_Return);
-        QTest::keyClick(board.Row(0), Qt::Key_Down);
-        disturb(board);
-        QTest::keyClick(board.Row(0), Qt::Key_Return);
-        EXPECT_EQ(board.state.Planet(0).Owner, owner);
-        EXPECT_EQ(board.state.Planet(4).Owner, 2);
-    }
+    board.Key(Qt::Key_Return);
+    EXPECT_EQ(board.Colours(), ".....Y....") << "an empty row has nothing to pick up";
+    board.Click("InvasionPlayer", 2);
+    board.Key(Qt::Key_Return);
+    board.window.ShowGame();
+    EXPECT_EQ(heading(), "Planet, row 1") << "a shown game holds nothing that is carried";
 }
 
 } // namespace

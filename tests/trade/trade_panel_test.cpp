@@ -4,76 +4,57 @@
 namespace ksm {
 namespace {
 
-struct TradeGame : GameWindow {
-    TradeGame() {
-        Start();
-        for (int player = 1; player <= MaxPlayers; ++player) {
-            state.Player(player).Name = std::string("P").append(std::to_string(player));
-        }
-    }
+/// The colour halfway between the labels of players 1 and 5.
+QColor Line(const GameWindow& game) {
+    const QPoint labels = game.Find("TradePlayer", 1)->pos() + game.Find("TradePlayer", 5)->pos();
+    return Picture(*game.Find<QWidget>("TradePic")).pixelColor(labels / 2 + QPoint(15, 8));
+}
 
-    std::string Info() const { return Find<MessageLabel>("TInfo")->Caption().toStdString(); }
-    void Agree(int one, int other) const {
-        Click("AddTAbutton");
-        Click("TradePlayer", one);
-        Click("TradePlayer", other);
+TEST(TradePanel, EveryClickIsAnsweredCountedPaidAndDrawn) {
+    const QColor none(0xB8, 0xC0, 0xCA);
+    const QColor orange(255, 128, 0);
+    const QColor yellow(Qt::yellow);
+    const std::tuple<const char*, const char*, const char*, const char*, QColor> rows[]{
+        {"RemoveTAButton", "There are no Trade Agreements to remove.", "are no", "0", none},
+        {"AddTAbutton", "\r\nSelect first player...", "are no", "0", none},
+        {"TradePlayer(1)", "P1 makes Trade Agreement with...", "are no", "0", none},
+        {"TradePlayer(5)", "P5 and P1 make a TA", "is one", "1", orange},
+        {"PlayerName(1)", "P5 and P1 make a TA", "is one", "1", orange},
+        {"NameColor(3)", "P5 and P1 make a TA", "is one", "1", orange}, // as it was made
+        {"ColorOK", "P5 and P1 make a TA", "is one", "1", orange},
+        {"AddTAbutton", "\r\nSelect first player...", "is one", "1", orange},
+        {"TradePlayer(2)", "P2 makes Trade Agreement with...", "is one", "1", orange},
+        {"TradePlayer(3)", "P3 and P2 make a TA", "are 2", "1", orange},
+        {"RemoveTAButton", "\r\nSelect first player...", "are 2", "1", orange},
+        {"TradePlayer(3)", "P3 breaks Trade Agreement with...", "are 2", "1", orange},
+        {"TradePlayer(2)", "P2 and P3 break their TA", "is one", "1", yellow}, // drawn anew
+        {"Tres", "Select First Player...", "is one", "1", yellow},
+        {"TradePlayer(5)", "P5 is not allowed to trade with...", "is one", "1", yellow},
+        {"TradePlayer(1)", "P1 and P5 are not allowed to trade with eachother", "are no", "0",
+         Qt::white},
+        {"TStop", "\r\n\r\nTRADE STOP!", "are no", "0", Qt::white},
+        {"Tres", "Forced Economic Independance dissolved.", "are no", "0", none},
+    };
+    GameWindow game;
+    game.Start();
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        game.state.Player(player).Name = std::string("P").append(std::to_string(player));
+        game.state.Player(player).Named = true;
     }
-    /// The colour halfway between two labels.
-    QColor Between(int one, int other) const {
-        auto* panel = Find<QWidget>("TradePic");
-        const QPoint middle =
-            (Find("TradePlayer", one)->pos() + Find("TradePlayer", other)->pos()) / 2 +
-            QPoint(15, 8);
-        return panel->grab().toImage().pixelColor(middle);
-    }
-};
-
-const QColor Background(0xB8, 0xC0, 0xCA);
-
-TEST(TradePanel, AnAgreementIsCountedPaidAndDrawn) {
-    TradeGame game;
     game.state.Planet(0).Owner = 5;
-    game.Agree(1, 5);
-    EXPECT_EQ(game.Info(), "P5 and P1 make a TA");
-    EXPECT_EQ(game.Find("TradeNumber")->Caption(), "There is one Trade Agreement in play.");
-    EXPECT_EQ(game.Caption("PlayerCredits", 1), "1");
-    game.Click("PlayerName", 1);
-    game.Click("NameColor", 3);
-    EXPECT_EQ(game.Between(1, 5), QColor(255, 128, 0)) << "the colour it was made in";
-    game.Agree(2, 3);
-    EXPECT_EQ(game.Between(1, 5), QColor(255, 128, 0));
-
-    game.Click("RemoveTAButton");
-    game.Click("TradePlayer", 3);
-    game.Click("TradePlayer", 2);
-    EXPECT_EQ(game.Find("TradeNumber")->Caption(), "There is one Trade Agreement in play.");
-    EXPECT_EQ(game.Between(1, 5), QColor(255, 255, 0)) << "drawn anew";
-}
-
-TEST(TradePanel, IndependenceIsMarkedRedWithAWhiteCore) {
-    TradeGame game;
-    game.Choose("Tres");
-    EXPECT_TRUE(game.Find<QAction>("Tres")->isChecked());
-    game.Click("TradePlayer", 1);
-    game.Choose("TStop");
-    game.Click("TradePlayer", 4);
-    EXPECT_EQ(game.Between(1, 4), QColor(Qt::white));
-    game.Choose("Tres");
-    EXPECT_FALSE(game.Find<QAction>("Tres")->isChecked());
-    EXPECT_EQ(game.Between(1, 4), Background);
-}
-
-TEST(TradePanel, TradeLawsShowTheirMarkAndFigures) {
-    TradeGame game;
-    game.Agree(1, 5);
-    game.Choose("TFree");
-    EXPECT_TRUE(game.Find<QAction>("TFree")->isChecked());
-    EXPECT_EQ(game.Caption("PlayerCredits", 5), "5");
-    game.Choose("TStop");
-    EXPECT_EQ(game.Caption("PlayerCredits", 5) + game.Info(), "0\r\n\r\nTRADE STOP!");
-    EXPECT_EQ(game.Between(1, 5), Background);
-    game.Choose("TFree");
-    EXPECT_FALSE(game.Find<QAction>("TFree")->isChecked());
+    int number = 0;
+    for (const auto& [control, info, count, credits, line] : rows) {
+        SCOPED_TRACE(testing::Message() << "click " << ++number << ", on " << control);
+        if (auto* law = game.window.findChild<QAction*>(control)) {
+            law->trigger();
+        } else {
+            game.Click(control);
+        }
+        EXPECT_EQ(game.Find<MessageLabel>("TInfo")->Caption().toStdString(), info);
+        EXPECT_TRUE(game.Find("TradeNumber")->Caption().contains(count));
+        EXPECT_EQ(game.Caption("PlayerCredits", 1), credits);
+        EXPECT_EQ(Line(game), line);
+    }
 }
 
 } // namespace

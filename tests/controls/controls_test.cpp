@@ -1,0 +1,232 @@
+#include "controls/accessible_names.h"
+#include "controls/choice_box.h"
+#include "controls/input_guard.h"
+#include "controls/message_label.h"
+#include "controls/spin_bar.h"
+#include "tests/window_test.h"
+
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <functional>
+
+namespace ksm {
+namespace {
+
+TEST(CaptionLabel, EndsWhatIsTooWideByAnEllipsisAndTellsAllOfItAsTyped) {
+    QWidget window;
+    CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
+    window.show();
+    label.SetExplanation([] { return "1 < 2"; });
+    const std::string wide = "<b>Anna</b>-Maximiliana the Second";
+    for (const auto& [caption, tip] :
+         {std::pair{std::string("<b>"), std::string("1 < 2")}, std::pair{wide, wide + "\n1 < 2"}}) {
+        label.SetCaption(QString::fromStdString(caption));
+        EXPECT_EQ(label.ShownText().endsWith(QChar(0x2026)), caption == wide);
+        QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&label, &rest);
+        EXPECT_EQ(AsRead(QToolTip::text()).toStdString(), tip);
+    }
+    label.resize(300, 17);
+    EXPECT_EQ(label.ShownText().toStdString(), wide);
+}
+
+TEST(CaptionLabel, ClicksOnceByMouseAndByKey) {
+    QWidget window;
+    CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
+    window.show();
+    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
+    QTest::mouseClick(&label, Qt::LeftButton);
+    EXPECT_EQ(clicks.count(), 0) << "only a clickable label clicks";
+    label.MakeClickable();
+    QTest::mousePress(&label, Qt::LeftButton);
+    QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(100, 100));
+    QTest::mouseClick(&label, Qt::RightButton);
+    EXPECT_EQ(clicks.count(), 0) << "a button released elsewhere and the other button do not";
+    QTest::mouseClick(&label, Qt::LeftButton);
+    QTest::keyClick(&label, Qt::Key_Space);
+    QTest::keyClick(&label, Qt::Key_Return);
+    EXPECT_EQ(clicks.count(), 3);
+}
+
+TEST(MessageLabel, CutsLongNamesRatherThanToShrinkBeyondReading) {
+    const QString first = "Alexandra-Maximiliana of Arden"; // thirty letters
+    const QString second = "Wilhelmina Winifred Wentworths";
+    const QString both = first + " and " + second;
+    const std::tuple<QString, QString, int> rows[]{
+        {"Ada makes Trade Agreement with...", "Ada makes Trade Agreement with...", 11},
+        {both + " make a TA", both + " make a TA", 9},
+        {both + " are not allowed to trade with eachother",
+         QString("Alexandra-Maximilia\u2026 and Wilhelmina Winifred\u2026 are not allowed to trade "
+                 "with eachother"),
+         9},
+        {"\r\n\r\nTRADE STOP!", "\n\nTRADE STOP!", 11}};
+    QWidget panel;
+    for (const auto& [message, shown, smallest] : rows) {
+        MessageLabel label("TInfo", QRect(0, 0, 73, 57), &panel);
+        label.SetCaption(message, {first, second, "Ada"});
+        EXPECT_EQ(label.ShownText(), shown);
+        EXPECT_GE(label.ShownFont().pixelSize(), smallest) << message.toStdString();
+    }
+}
+
+struct SpinBars : testing::Test {
+    SpinBars() {
+        window.show();
+        window.activateWindow();
+    }
+
+    void Click(int x, int y) { QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(x, y)); }
+    void DoubleClick(int x, int y) {
+        Click(x, y);
+        QTest::mouseDClick(&bar, Qt::LeftButton, {}, QPoint(x, y));
+    }
+    void Turn(int angle) {
+        QWheelEvent notch(QPointF(8, 8), QPointF(8, 8), {}, QPoint(0, angle), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&bar, &notch);
+    }
+
+    QWidget window;
+    SpinBar bar{"Bar", QRect(0, 0, 17, 25), &window};
+};
+
+TEST_F(SpinBars, StepOnceForAClickAKeyOrANotch) {
+    const std::pair<std::function<void()>, int> rows[]{
+        {[&] { Click(0, 1); }, 4},
+        {[&] { Click(16, 11); }, 4},
+        {[&] { Click(0, 12); }, 6},
+        {[&] { Click(16, 24); }, 6},
+        {[&] { QTest::mouseClick(&bar, Qt::RightButton); }, 5},
+        {[&] { DoubleClick(8, 20); }, 7},
+        {[&] { Turn(120); }, 4},
+        {[&] { QTest::keyClick(&bar, Qt::Key_Down); }, 6},
+        {[&] { bar.clearFocus(); }, 5},
+        {[&] { Turn(120); }, 5}}; // whoever scrolls past means something else
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    int number = 0;
+    for (const auto& [move, value] : rows) {
+        SCOPED_TRACE(++number);
+        bar.SetRange(0, 9, 5);
+        move();
+        EXPECT_EQ(bar.value(), value);
+    }
+}
+
+TEST_F(SpinBars, RepeatWhileHeldUntilThePointerLeavesOrSomethingElseGetsTheRelease) {
+    const std::function<void()> endings[]{[&] { QTest::mouseMove(&bar, QPoint(8, 5)); },
+                                          [&] { QTest::mouseRelease(&window, Qt::LeftButton); }};
+    for (const auto& end : endings) {
+        bar.SetRange(0, 1000, 0);
+        QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 20});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() >= 2; }, 5000));
+        end();
+        const int left = bar.value();
+        QTest::qWait(300);
+        EXPECT_EQ(bar.value(), left);
+    }
+}
+
+struct InputGuards : testing::Test {
+    InputGuards() {
+        qApp->installEventFilter(&guard);
+        window.show();
+        other.show();
+    }
+
+    static void Key(QWidget* control, QEvent::Type type, quint64 time, bool repeated = false) {
+        QKeyEvent key(type, Qt::Key_X, Qt::NoModifier, "x", repeated);
+        key.setTimestamp(time);
+        QApplication::sendEvent(control, &key);
+    }
+    void Click(QWidget* control, QEvent::Type press) {
+        for (const auto type : {press, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            event.setTimestamp(++now);
+            QApplication::sendEvent(control, &event);
+        }
+    }
+
+    quint64 now = 100;
+    InputGuard guard;
+    QWidget window;
+    QLineEdit first{&window}, second{&window}, other;
+};
+
+TEST_F(InputGuards, AHeldKeyStaysInItsWindowUntilItIsPressedAnew) {
+    Key(&first, QEvent::KeyPress, 10);
+    Key(&first, QEvent::KeyPress, 20, true);
+    Key(&second, QEvent::KeyPress, 30, true);
+    EXPECT_EQ(first.text() + '|' + second.text(), "xx|x") << "within a window a key repeats";
+    Key(&other, QEvent::KeyPress, 40, true);
+    Key(&other, QEvent::KeyRelease, 50);
+    Key(&other, QEvent::KeyPress, 50);
+    EXPECT_EQ(other.text(), "") << "a repetition that is not known as one";
+    Key(&other, QEvent::KeyRelease, 60);
+    Key(&other, QEvent::KeyPress, 70);
+    EXPECT_EQ(other.text(), "x");
+}
+
+TEST_F(InputGuards, ADoubleClickCountsOnlyWhereBothHalvesFell) {
+    CaptionLabel label("L", QRect(0, 50, 60, 17), &window);
+    label.MakeClickable();
+    label.show();
+    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
+    Click(&first, QEvent::MouseButtonPress);
+    Click(&label, QEvent::MouseButtonDblClick);
+    EXPECT_EQ(clicks.count(), 0);
+    auto gone = std::make_unique<QWidget>();
+    Click(gone.get(), QEvent::MouseButtonPress);
+    gone.reset();
+    Click(&label, QEvent::MouseButtonDblClick);
+    EXPECT_EQ(clicks.count(), 0);
+    Click(&label, QEvent::MouseButtonPress);
+    Click(&label, QEvent::MouseButtonDblClick);
+    EXPECT_EQ(clicks.count(), 2);
+}
+
+TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
+    InstallAccessibleNames();
+    const auto of = [](QWidget* control) { return QAccessible::queryAccessibleInterface(control); };
+    QWidget window;
+    CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
+    label.SetHeading("Influence, Player 3");
+    for (const auto& [caption, name] :
+         {std::pair{"", "Influence, Player 3"}, std::pair{"7", "Influence, Player 3: 7"}}) {
+        label.SetCaption(caption);
+        EXPECT_EQ(of(&label)->text(QAccessible::Name), name);
+    }
+    EXPECT_EQ(of(&label)->role(), QAccessible::StaticText);
+    label.MakeClickable();
+    EXPECT_EQ(of(&label)->role(), QAccessible::Button);
+    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
+    for (const auto& [isShown, isEnabled, pressed] :
+         {std::tuple{false, true, 0}, std::tuple{true, true, 1}, std::tuple{true, false, 1}}) {
+        window.setVisible(isShown);
+        label.setEnabled(isEnabled);
+        of(&label)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(clicks.count(), pressed) << "only what is shown and enabled can be pressed";
+    }
+    SpinBar docks("DockScroll(3)", QRect(0, 0, 17, 25), &window);
+    docks.SetRange(0, 10, 9);
+    docks.SetCount({.AtZero = 10, .Least = 0, .Most = 8});
+    docks.show();
+    QAccessibleValueInterface* value = of(&docks)->valueInterface();
+    EXPECT_EQ(value->currentValue(), 1) << "the count rather than the position";
+    EXPECT_EQ(value->minimumValue(), 0);
+    EXPECT_EQ(value->maximumValue(), 8);
+    value->setCurrentValue(4);
+    EXPECT_EQ(docks.value(), 6);
+    ChoiceBox box("Race(3)", "Race", {"Altheran", "Quorvi"}, &window);
+    box.SetHeading("Race, Player 3");
+    box.ShowChoice(1);
+    EXPECT_EQ(of(&box)->text(QAccessible::Name), "Race, Player 3");
+    EXPECT_EQ(of(&box)->text(QAccessible::Value), "Quorvi");
+}
+
+} // namespace
+} // namespace ksm
