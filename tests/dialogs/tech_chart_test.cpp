@@ -2,66 +2,80 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace ksm {
 namespace {
 
-struct ChartCase {
-    const TechChart& Chart;
-    std::vector<std::ptrdiff_t> Lines;  ///< Line1, Line4, Line5, Line6 and pairs of strokes
-    std::vector<std::ptrdiff_t> Fields; ///< yellow, green, blue and red boxes
-};
-
-const ChartCase Charts[]{{StandardChart(), {29, 9, 2, 3, 34}, {5, 5, 5, 5}},
-                         {ExpansionChart(), {34, 9, 3, 9, 42}, {6, 6, 7, 5}}};
-
-TEST(TechCharts, HaveTheirNumbersOfEverything) {
-    for (const auto& [chart, lines, fields] : Charts) {
-        EXPECT_EQ(
-            (std::vector{std::ssize(chart.Line1), std::ssize(chart.Line4), std::ssize(chart.Line5),
-                         std::ssize(chart.Line6), std::ssize(StrokePairs(chart))}),
-            lines);
-        std::vector<std::ptrdiff_t> found(4);
-        for (const Technology& technology : chart.Label1) {
-            ++found.at(static_cast<std::size_t>(technology.Field));
-        }
-        EXPECT_EQ(found, fields);
+std::vector<Connector> LinesOf(const TechChart& chart) {
+    std::vector<Connector> all;
+    for (const auto* lines : {&chart.Line1, &chart.Line4, &chart.Line5, &chart.Line6}) {
+        all.insert(all.end(), lines->begin(), lines->end());
     }
+    return all;
 }
 
-/// How many lines lead into the box, each of them to an arrowhead of its colour.
-int LinesInto(const Technology& box, const TechChart& chart) {
-    int found = 0;
-    for (const auto* lines : {&chart.Line1, &chart.Line4, &chart.Line5, &chart.Line6}) {
-        for (const auto& [ink, from, to] : *lines) {
-            const Point inBox{to.X - box.Place.X, to.Y - box.Place.Y};
-            const bool down = inBox.Y == 0 && inBox.X > 0 && inBox.X < box.Width;
-            const bool right = inBox.X == 0 && inBox.Y > 0 && inBox.Y < TechBoxHeight;
-            if ((down && from.X == to.X) || (right && from.Y == to.Y)) {
-                ++found;
-                const auto mark = std::ranges::find(chart.Marks, to, &ChartMark::At);
-                EXPECT_TRUE(mark != chart.Marks.end() && mark->Ink == ink &&
-                            mark->Shape == (down ? MarkShape::ArrowDown : MarkShape::ArrowRight));
-            }
+bool Contains(Point corner, int width, int height, Point p) {
+    return p.X >= corner.X && p.X <= corner.X + width && p.Y >= corner.Y &&
+           p.Y <= corner.Y + height;
+}
+
+bool LiesOn(const Connector& line, Point p) {
+    return Contains({std::min(line.From.X, line.To.X), std::min(line.From.Y, line.To.Y)},
+                    std::abs(line.From.X - line.To.X), std::abs(line.From.Y - line.To.Y), p);
+}
+
+/// Which boxes a line from there comes from: one on whose edge it begins, or those of the line that
+/// it leaves, or those of all lines into the diamond above it.
+std::set<int> Origins(const TechChart& chart, Point start) {
+    for (int box = 0; const Technology& technology : chart.Label1) {
+        if (Contains(technology.Place, technology.Width, TechBoxHeight, start)) {
+            return {box};
+        }
+        ++box;
+    }
+    const Point above{start.X, start.Y - StrokeSize};
+    const auto mark = std::ranges::find(chart.Marks, above, &ChartMark::At);
+    const bool leavesDiamond = mark != chart.Marks.end() && mark->Shape == MarkShape::Diamond;
+    std::set<int> origins;
+    for (const Connector& line : LinesOf(chart)) {
+        const int distance = std::abs(line.To.X - above.X) + std::abs(line.To.Y - above.Y);
+        const bool joins = leavesDiamond && line.To.Y <= above.Y && distance == StrokeSize;
+        if (joins || (LiesOn(line, start) && line.From != start)) {
+            origins.merge(Origins(chart, line.From));
         }
     }
-    return found;
+    return origins;
 }
 
 TEST(TechCharts, LeadALineFromEveryPrerequisite) {
-    for (const auto& [chart, lines, fields] : Charts) {
-        std::ptrdiff_t joins = 1; // in the legend
+    for (const TechChart& chart : {StandardChart(), ExpansionChart()}) {
         for (const Technology& box : chart.Label1) {
-            const bool all = box.Rule == TechRule::AllOf;
-            joins += all ? 1 : 0;
-            EXPECT_EQ(LinesInto(box, chart), all ? 1 : std::ssize(box.Sources)) << box.Name;
+            std::multiset<std::set<int>> expected, found;
             for (const int source : box.Sources) {
-                EXPECT_LT(chart.Label1.at(static_cast<std::size_t>(source)).Place.Y, box.Place.Y)
-                    << box.Name << ": earlier technologies stand higher";
+                expected.insert({source});
             }
+            if (box.Rule == TechRule::AllOf) {
+                expected = {{box.Sources.begin(), box.Sources.end()}};
+            }
+            for (const Connector& line : LinesOf(chart)) {
+                if (Contains(box.Place, box.Width, TechBoxHeight, line.To)) {
+                    found.insert(Origins(chart, line.From));
+                    EXPECT_EQ(std::ranges::count(chart.Marks, line.To, &ChartMark::At), 1);
+                }
+            }
+            EXPECT_EQ(found, expected) << box.Name;
         }
-        EXPECT_EQ(std::ranges::count(chart.Marks, MarkShape::Diamond, &ChartMark::Shape), joins);
     }
+}
+
+TEST(TechCharts, HaveTheirNumbersOfLinesAndMarks) {
+    const auto numbers = [](const TechChart& chart) {
+        return std::array{std::ssize(chart.Line1), std::ssize(chart.Line4), std::ssize(chart.Line5),
+                          std::ssize(chart.Line6), std::ssize(StrokePairs(chart))};
+    };
+    EXPECT_EQ(numbers(StandardChart()), (std::array<std::ptrdiff_t, 5>{29, 9, 2, 3, 34}));
+    EXPECT_EQ(numbers(ExpansionChart()), (std::array<std::ptrdiff_t, 5>{34, 9, 3, 9, 42}));
 }
 
 } // namespace

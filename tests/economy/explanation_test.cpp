@@ -56,6 +56,7 @@ TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
     EXPECT_EQ(Text(Influence), "Influence 6" + resources + law);
     EXPECT_EQ(Text(Resources),
               "Resources 5" + influence + "\n+ 2 Altheran (planets other than Quessin)" + law);
+    EXPECT_EQ(Text(Credits), "Credits 9 = 5 resources\n+ 4 planets of Emil" + law);
     NumPlanets = 0;
     EXPECT_EQ(Text(Resources), "Resources 0" + law);
     NumPlanets = 13;
