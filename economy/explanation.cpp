@@ -116,7 +116,8 @@ Part PartnerPart(const Game& game, int player, int partner) {
 
 Parts CreditParts(const Game& game, int player) {
     const PartnerSet partners = TradePartners(game, player);
-    Parts parts{{game.Player(player).PlanetResources, "resources"}};
+    const int resources = game.Player(player).PlanetResources;
+    Parts parts{{resources, resources == 1 ? "resource" : "resources"}};
     for (int partner = 1; partner <= MaxPlayers; ++partner) {
         if (partners[static_cast<std::size_t>(partner)]) {
             parts.push_back(PartnerPart(game, player, partner));
@@ -265,7 +266,8 @@ std::string RankText(const Game& game, int place) {
          {std::pair{place - 1, "after "}, {place + 1, "before "}}) {
         if (neighbour >= 1 && neighbour <= game.NumPlayers && place <= game.NumPlayers &&
             row(place).Influence == row(neighbour).Influence) {
-            text += (text.empty() ? "" : "\n") + TieText(game, row(place), row(neighbour), words);
+            text += text.empty() ? "" : "\n";
+            text += TieText(game, row(place), row(neighbour), words);
         }
     }
     return text;

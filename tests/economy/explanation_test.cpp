@@ -6,6 +6,7 @@
 #include "planets/planet_list_file.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace ksm {
 namespace {
@@ -65,7 +66,7 @@ TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
 }
 
 TEST_F(Explanations, OfCredits) {
-    EXPECT_EQ(Text(Credits, 10), "Credits 4 = 1 resources\n+ 3 planets of Dora");
+    EXPECT_EQ(Text(Credits, 10), "Credits 4 = 1 resource\n+ 3 planets of Dora");
     const std::string emil = " = 6 resources\n+ 4 planets of Emil";
     dora.Micro = true;
     EXPECT_EQ(Text(Credits), "Credits 13" + emil + "\n+ 3 Micro Tech. (1 partner)");
@@ -125,6 +126,53 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
     TurnOrder(*this);
     EXPECT_EQ(RankText(*this, 3),
               "after Player 6: equal influence, more resources (Orlen house rules)");
+}
+
+/// A game in which everything that adds to a figure is there or not by chance.
+Game RandomGame(std::mt19937& random) {
+    const auto pick = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    const auto byte = [&](int most) { return static_cast<std::uint8_t>(pick(most)); };
+    Game game;
+    game.NumPlanets = 40;
+    for (PlanetRecord& planet : game.LoadedPlanets()) {
+        planet = {pick(9) == 0 ? "Quessin" : "P", byte(9), byte(9), static_cast<Specialty>(pick(3)),
+                  byte(MaxPlayers)};
+    }
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        PlayerRecord& record = game.Player(player);
+        record.Race = static_cast<Race>(pick(RaceCount));
+        TakeCostsOfRace(record);
+        record.SpaceDocks = pick(MaxSpaceDocks);
+        record.Enviro = pick(1) == 1;
+        record.PellamTools = pick(1) == 1;
+        record.Micro = pick(1) == 1;
+        if (player > 1 && pick(1) == 1) {
+            game.Cell(player, 1 + pick(player - 2)) = Agreement;
+        }
+    }
+    game.Laws.LabourUnion = pick(1) == 1;
+    game.Laws.FreeTrade = pick(1) == 1;
+    game.Laws.TradeRestrictions = pick(1) == 1;
+    game.RedModifier = static_cast<std::int16_t>(pick(MaxModifier));
+    return game;
+}
+
+TEST(Explanation, ThePartsAddUpToTheFigureInTenThousandRandomGames) {
+    std::mt19937 random(10);
+    for (int number = 0; number < 10'000; ++number) {
+        Game game = RandomGame(random);
+        UpdateValues(game);
+        for (int player = 1; player <= MaxPlayers; ++player) {
+            for (int index = 0; index < FigureCount; ++index) {
+                int sum = 0;
+                for (const auto& part : Explain(game, player, static_cast<Figure>(index)).Parts) {
+                    sum += part.Amount;
+                }
+                ASSERT_EQ(sum, ValueOf(game, player, static_cast<Figure>(index)))
+                    << "figure " << index << " of player " << player << ", game " << number;
+            }
+        }
+    }
 }
 
 } // namespace

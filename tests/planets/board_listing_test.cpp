@@ -45,6 +45,18 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
     }
 }
 
+TEST(BoardListing, ListsAnewOnlyAnOwnerWhoCanBeSeen) {
+    for (const auto& [started, players, owner, listed] :
+         {std::tuple{true, 10, 10, 10}, std::tuple{true, 9, 10, AllPlanets},
+          std::tuple{true, 2, NeutralOwner, NeutralOwner}, std::tuple{false, 10, 3, AllPlanets}}) {
+        GameState state = BoardGame(101, owner, 5);
+        state.Started = started;
+        state.NumPlayers = players;
+        RelistBoard(state);
+        EXPECT_EQ(state.View.BoardPlayer, listed) << owner << " of " << players;
+    }
+}
+
 TEST(OwnerPlace, SpacesTheOwnersOnTheBoard) {
     for (const auto& [players, first, last] : {std::tuple{2, 36, 61}, std::tuple{6, 36, 161},
                                                std::tuple{7, 31, 157}, std::tuple{10, 31, 166}}) {
