@@ -20,7 +20,7 @@ void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QStri
     }
     // What the parts of Qt that look for a display say on the way is in the sentence.
     if (!QByteArrayView(context.category).startsWith("qt.qpa.")) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+        std::fputs(qUtf8Printable(message + '\n'), stderr);
     }
 }
 

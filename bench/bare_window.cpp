@@ -82,7 +82,7 @@ private:
 
     void MakeMenu() {
         struct Entry {
-            const char* Caption;
+            const char* Caption = "";
             QStringList Items;
         };
         const std::array<Entry, 8> bar{
@@ -126,8 +126,9 @@ private:
     }
 
     Column MakeColumn() {
-        const QColor costColours[]{{0, 128, 0}, {0, 0, 192}, {192, 0, 0}, {192, 192, 0}};
-        const int tops[]{225, 241, 257, 273, 295, 376, 392, 408, 424};
+        const std::array costColours{QColor(0, 128, 0), QColor(0, 0, 192), QColor(192, 0, 0),
+                                     QColor(192, 192, 0)};
+        const std::array tops{225, 241, 257, 273, 295, 376, 392, 408, 424};
         Column column;
         column.Line = Make<QFrame>({0, 200, 1, 240}, client);
         column.Name = MakeLabel("Player", {0, 184, 55, 18}, client);

@@ -9,7 +9,7 @@ namespace ksm {
 namespace {
 
 bool CanHaveFocus(const QWidget* control) {
-    return control->isVisible() && control->isEnabled() && !control->focusProxy() &&
+    return control->isVisible() && control->isEnabled() && control->focusProxy() == nullptr &&
            (control->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
 }
 

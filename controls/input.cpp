@@ -7,7 +7,8 @@ namespace ksm {
 
 bool TakesInput(const QWidget& control) {
     const QWidget* modal = QApplication::activeModalWidget();
-    return control.isEnabled() && control.isVisible() && (!modal || modal == control.window());
+    return control.isEnabled() && control.isVisible() &&
+           (modal == nullptr || modal == control.window());
 }
 
 } // namespace ksm

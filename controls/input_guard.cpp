@@ -34,7 +34,7 @@ void InputGuard::NotePress(QWidget& control, const QMouseEvent& event) {
 }
 
 bool InputGuard::FellThrough(const QWidget& control) const {
-    return !pressed || (pressed != &control && !control.isAncestorOf(pressed));
+    return pressed == nullptr || (pressed != &control && !control.isAncestorOf(pressed));
 }
 
 bool InputGuard::RunsOn(QWidget& control, const QKeyEvent& event) {

@@ -48,7 +48,7 @@ void SpinBar::SetHeld(bool held) {
 
 // A window or a menu that opened meanwhile gets the release of the mouse button.
 bool SpinBar::CanBeHeld() const {
-    return TakesInput(*this) && !QApplication::activePopupWidget() &&
+    return TakesInput(*this) && QApplication::activePopupWidget() == nullptr &&
            QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
 }
 

@@ -4,6 +4,7 @@
 #include "model/player_labels.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <numeric>
 
@@ -84,10 +85,10 @@ Parts ResourceParts(const Game& game, int player) {
 
 Parts InfluenceParts(const Game& game, int player) {
     Parts parts = PlanetParts(game, player, &PlanetRecord::Influence);
-    const Part bonuses[]{
-        {EnviroCompBonus(game, player), "Enviro Comp. (space docks)"},
-        {OrrunBonus(game, player), "Orrun (agreements in play)"},
-        {AltheranBonus(game, player), "Altheran (planets other than Quessin)"},
+    const std::array bonuses{
+        Part{EnviroCompBonus(game, player), "Enviro Comp. (space docks)"},
+        Part{OrrunBonus(game, player), "Orrun (agreements in play)"},
+        Part{AltheranBonus(game, player), "Altheran (planets other than Quessin)"},
     };
     std::ranges::copy_if(bonuses, std::back_inserter(parts),
                          [](const Part& bonus) { return bonus.Amount != 0; });

@@ -100,10 +100,10 @@ private:
 
     Descriptions Boxes() const {
         Descriptions found;
-        for (const auto& [caption, owned] : Technologies) {
+        for (const Technology& technology : Technologies) {
             const Descriptions ticked =
                 ForPlayers([&](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
-                    return was.*owned == is.*owned ? "" : caption;
+                    return was.*technology.Owned == is.*technology.Owned ? "" : technology.Caption;
                 });
             found.insert(found.end(), ticked.begin(), ticked.end());
         }
@@ -195,7 +195,8 @@ private:
 bool IsChange(const Game& before, const Game& after) {
     Game same = before;
     for (int slot = 0; slot < OwnerSlots; ++slot) {
-        static_cast<PlayerFigures&>(same.Player(slot)) = after.Player(slot);
+        const PlayerFigures& figures = after.Player(slot);
+        static_cast<PlayerFigures&>(same.Player(slot)) = figures;
     }
     same.TradeCount = after.TradeCount;
     same.TurnOrderRows = after.TurnOrderRows;

@@ -162,8 +162,9 @@ PlanetListResult ReadPlanetListFile(const std::filesystem::path& path) {
             error.assign(errno != 0 ? errno : EIO, std::generic_category());
         }
     }
-    if (error)
+    if (error) {
         return {{}, {{0, "the file cannot be read: " + error.message(), ""}}};
+    }
     return ReadPlanetList(bytes);
 }
 

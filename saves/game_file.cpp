@@ -20,7 +20,7 @@ QString OnDisk(const QString& name) {
 
 QString Failure(const QString& path, const QString& reason) {
     const QFileInfo file(path);
-    return QString("\"%1\" in the folder \"%2\": %3")
+    return QString(R"("%1" in the folder "%2": %3)")
         .arg(file.fileName(), QDir::toNativeSeparators(file.absolutePath()), reason);
 }
 
@@ -52,7 +52,7 @@ QString Save(const QString& path, const GameState& state) {
                "Shorten the notes.";
     }
     for (const auto& check : {CheckFile, CheckName}) {
-        const QString problem = check(path);
+        QString problem = check(path);
         if (!problem.isEmpty()) {
             return problem;
         }

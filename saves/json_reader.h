@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ksm {
@@ -24,10 +25,11 @@ public:
 
     /// Reads the members of an object, or those of a row, a list that leaves their names out.
     /// `place` says where in the file it stands, as in "Players[3]"; it may be empty.
-    JsonReader(const QJsonObject& object, const QString& place, QString& problem)
-        : rest(object), ownPlace(place), firstProblem(problem) {}
-    JsonReader(const QJsonArray& row, const QString& place, QString& problem)
-        : isRow(true), restOfRow(row), ownPlace(place), firstProblem(problem) {}
+    JsonReader(QJsonObject object, QString place, QString& problem)
+        : rest(std::move(object)), ownPlace(std::move(place)), firstProblem(problem) {}
+    JsonReader(QJsonArray row, QString place, QString& problem)
+        : isRow(true), restOfRow(std::move(row)), ownPlace(std::move(place)),
+          firstProblem(problem) {}
 
     template<typename Whole>
     void Number(const char* name, Whole& value, int least, int most) {

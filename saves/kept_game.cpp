@@ -44,13 +44,13 @@ QString KeptGame::Write(const GameState& state) {
                "Shorten the notes.";
     }
     if (!isOurs) {
-        const QString refused = RenameEarlierGame();
+        QString refused = RenameEarlierGame();
         if (!refused.isEmpty()) {
             return refused;
         }
         RemoveLeftovers(".");
     }
-    const QString refused = ReplaceFile(KeptGameName, content, Durability::Process);
+    QString refused = ReplaceFile(KeptGameName, content, Durability::Process);
     isOurs = isOurs || refused.isEmpty();
     return refused;
 }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <utility>
+
 namespace ksm {
 
 /// The file of the game that is being played, and of the evening before.
@@ -17,7 +19,7 @@ inline constexpr auto EarlierGameName = "autosave-1.ksm";
 class KeptGame {
 public:
     /// `start` is not worth keeping: only what differs from it is.
-    explicit KeptGame(const GameState& start) : kept(start) {}
+    explicit KeptGame(GameState start) : kept(std::move(start)) {}
 
     /// Keeps the game, if anything but the view changed since it was last kept.
     void Keep(const GameState& state);

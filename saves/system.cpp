@@ -13,6 +13,7 @@ QString SyncFile(const QFile& file) {
 }
 
 QString SyncFolder(const QString& folder) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): as it is declared.
     const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
     if (handle < 0) {
         return qt_error_string(errno);

@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace ksm {
 namespace {
 
@@ -39,7 +41,7 @@ TEST(Keys, TabGoesFromGroupToGroup) {
                       "Enviro(2)",     "AddTAbutton",   "RemoveTAButton",  "TradePlayer(1)"};
     EXPECT_EQ(game.Round(Qt::Key_Tab), setup) << "nothing that the setup panel covers";
     Names back(setup.rbegin(), setup.rend());
-    std::ranges::rotate(back, back.end() - 1);
+    std::rotate(back.begin(), back.end() - 1, back.end());
     EXPECT_EQ(game.Round(Qt::Key_Backtab), back);
     game.Start();
     game.Focus("PlayerName(1)");
