@@ -7,14 +7,16 @@
 namespace {
 
 void Require(bool condition) {
-    if (!condition)
+    if (!condition) {
         std::abort();
+    }
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace ksm;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the same bytes.
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     const PlanetListResult list = ReadPlanetList(bytes);
     Require(list.Planets.size() <= MaxPlanets);

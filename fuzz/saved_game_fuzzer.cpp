@@ -7,20 +7,22 @@
 namespace {
 
 void Require(bool condition) {
-    if (!condition)
+    if (!condition) {
         std::abort();
+    }
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace ksm;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the same bytes.
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     const ReadGameResult first = ReadGame(bytes);
     Require(first.Game.has_value() == first.Problem.isEmpty());
-    if (!first.Game)
+    if (!first.Game) {
         return 0;
-
+    }
     const QByteArray saved = WriteGame(*first.Game);
     const ReadGameResult second = ReadGame(saved);
     Require(second.Game.has_value());

@@ -27,8 +27,9 @@ ksm::GameState SmallGame() {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 2)
+    if (argc != 2) {
         return EXIT_FAILURE;
+    }
     const QString lists = QString(argv[1]) + "/fuzz_planet_list";
     const QString games = QString(argv[1]) + "/fuzz_saved_game";
     const std::array planetLists{"'comment\r\nAlpha,2,1,blue\r\nBeta,2.5,&HfF,G\r\n",
