@@ -90,13 +90,11 @@ void TradePanel::Apply(const TradeOutcome& outcome) {
         emit InputChanged();
     }
     // A new line covers the others; where all are drawn anew, the old ones go.
-    if (outcome.Diagram == DiagramChange::Redraw) {
-        ShowStrokes(game.TradeStrokes);
-    }
-    const std::size_t kept =
-        outcome.Diagram == DiagramChange::Redraw ? 0 : game.TradeStrokes.size();
+    const bool anew = outcome.Diagram == DiagramChange::Redraw;
+    const std::size_t first = anew ? 0 : game.TradeStrokes.size();
+    ShowStrokes(std::span(game.TradeStrokes).subspan(first));
     DrawOutcome(game, outcome);
-    ShowStrokes(std::span(game.TradeStrokes).subspan(kept));
+    ShowStrokes(std::span(game.TradeStrokes).subspan(first));
     emit Changed();
 }
 
