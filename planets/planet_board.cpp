@@ -183,7 +183,7 @@ void PlanetBoard::Take(int row) {
 }
 
 void PlanetBoard::DragTo(QPoint global) {
-    const int owner = OwnerOf(childAt(mapFromGlobal(global)));
+    const int owner = OwnerOf(SeenAt(global));
     if (owner != NoOwner && dragged) {
         InvasionPlayer_DragOver(owner, *dragged);
     }
