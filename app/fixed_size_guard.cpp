@@ -34,7 +34,7 @@ bool FixedSizeGuard::eventFilter(QObject* watched, QEvent* event) {
     // The desktop has maximised it; or it has not, and the pointer is back from the button.
     case QEvent::WindowStateChange:
     case QEvent::Enter:
-        if (window->windowStates().testFlag(Qt::WindowMaximized)) {
+        if (window->windowStates().testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) {
             const auto restore = [window] { window->setWindowStates(Qt::WindowNoState); };
             QMetaObject::invokeMethod(window, restore, Qt::QueuedConnection);
         }

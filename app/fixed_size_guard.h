@@ -9,7 +9,7 @@ namespace ksm {
 
 /// Under Wayland every title bar has a button that maximises, and a desktop may end a program whose
 /// window does not fill the size that it is then given. With this a window fills it, and returns to
-/// its own size at once. To be installed on the application.
+/// its own size at once, as it does from a full screen. To be installed on the application.
 class FixedSizeGuard : public QObject {
     Q_OBJECT
 

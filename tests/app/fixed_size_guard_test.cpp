@@ -16,10 +16,11 @@ TEST(FixedSizeGuard, AMaximisedWindowMayFillTheScreenAndReturns) {
     QObject::connect(window, &QWindow::windowStateChanged, window,
                      [&] { most = most.expandedTo(window->maximumSize()); });
 
-    window->setWindowStates(Qt::WindowMaximized);
-
-    EXPECT_GT(most.width(), window->screen()->size().width()) << "as Wayland demands";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->windowStates() == Qt::WindowNoState; }));
+    for (const auto state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        window->setWindowStates(state);
+        EXPECT_GT(most.width(), window->screen()->size().width()) << "as Wayland demands";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->windowStates() == Qt::WindowNoState; }));
+    }
     EXPECT_EQ(window->size(), size);
     EXPECT_EQ(window->minimumSize(), size);
     EXPECT_EQ(window->maximumSize(), size);
