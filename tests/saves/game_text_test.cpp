@@ -1,4 +1,3 @@
-#include "saves/game_text.h"
 #include "tests/saves/sample_game.h"
 
 #include <QFile>
@@ -13,7 +12,6 @@ TEST(GameText, ReadsAndWritesGamesOfTheFirstVersion) {
     QFile file(FIRST_SAVED_GAME);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray saved = file.readAll();
-    EXPECT_TRUE(ReadGame(saved).Game == SampleGame()) << ReadGame(saved).Problem.toStdString();
     EXPECT_EQ(WriteGame(SampleGame()), saved);
     int mode = 0;
     for (const char* word : {"idle", "add first", "add partner", "remove first", "remove partner",

@@ -1,10 +1,17 @@
 // A game in which every input differs from a new game's.
 #pragma once
 
-#include "model/game_state.h"
+#include "saves/game_text.h"
+
+#include <QFile>
 
 namespace ksm {
 
-GameState SampleGame();
+/// The game that was saved by the first version.
+inline GameState SampleGame() {
+    QFile file(FIRST_SAVED_GAME);
+    file.open(QIODevice::ReadOnly);
+    return ReadGame(file.readAll()).Game.value();
+}
 
 } // namespace ksm
