@@ -48,15 +48,15 @@ struct GameWindow {
     std::string Caption(const char* array, int index) const {
         return Find(array, index)->Caption().toStdString();
     }
-    QColor Back(const char* array, int index) const {
-        return Find(array, index)->palette().color(QPalette::Window);
-    }
 
     void Click(QWidget* control) const { QTest::mouseClick(control, Qt::LeftButton); }
     void Click(const char* name) const { Click(Find<QWidget>(name)); }
     void Click(const char* array, int index) const { Click(Find<QWidget>(array, index)); }
     void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
     void Move(const char* bar, int value) const { Find<QScrollBar>(bar)->setValue(value); }
+    void Move(const char* bars, int index, int value) const {
+        Find<QScrollBar>(bars, index)->setValue(value);
+    }
     void Race(int player, ksm::Race race) const {
         emit Find<QComboBox>("Race", player)->activated(static_cast<int>(race));
     }

@@ -2,66 +2,60 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
+
 namespace ksm {
+
+namespace {
+
+using Names = std::vector<const char*>;
+
+// What is named twice is done twice as often.
+const Names Laws{"MenuLabour", "MenuOrlen", "Tres", "TFree", "TRestr", "TStop"};
+const Names TradeButtons{"AddTAbutton", "AddTAbutton", "AddTAbutton", "RemoveTAButton"};
+const Names OfAPlayer{"Enviro", "PellamTools", "Micro", "TradePlayer", "TradePlayer"};
+const Names NameEntries{"NameEntry", "NameEntry", "ShortNameEntry"};
+
+} // namespace
 
 void RandomPlay::Step() {
     const bool started = game.state.Started;
-    const std::pair<int, void (RandomPlay::*)()> kinds[]{
-        {25, &RandomPlay::Trade},
-        {15, started ? &RandomPlay::Drag : &RandomPlay::SetUp},
-        {10, started ? &RandomPlay::Look : &RandomPlay::Change},
-        {5, &RandomPlay::NameSomebody},
-        {2, &RandomPlay::ModifyCosts},
-        {2, &RandomPlay::WriteNotes},
-        {41, &RandomPlay::Change}};
+    const std::pair<int, std::function<void()>> kinds[]{
+        {3, [&] { game.Choose(Any(Laws)); }},
+        {7, [&] { game.Click(Any(TradeButtons)); }},
+        {46, [&] { game.Click(Any(OfAPlayer), Player()); }},
+        {10, [&] { game.Move("DockScroll", Player(), Pick(0, MaxSpaceDocks)); }},
+        {15, [&] { started ? Drag() : SetUp(); }},
+        {10, [&] { started ? Look() : SetUp(); }},
+        {5, [&] { NameSomebody(); }},
+        {2, [&] { ModifyCosts(); }},
+        {2, [&] { WriteNotes(); }}};
     int left = Pick(1, 100);
     for (const auto& [weight, act] : kinds) {
         left -= weight;
         if (left <= 0) {
-            return (this->*act)();
+            return act();
         }
     }
 }
 
 void RandomPlay::SetUp() {
-    const int kind = Pick(1, 40);
+    const int kind = Pick(1, 60);
     if (kind == 1) {
         game.Start();
-    } else if (kind <= 15) {
+    } else if (kind <= 20) {
         game.Move("PlayNumScroll", Pick(0, 10));
     } else {
         game.Race(Player(), static_cast<Race>(Pick(0, RaceCount - 1)));
     }
 }
 
-void RandomPlay::Change() {
-    const int kind = Pick(1, 6);
-    if (kind == 1) {
-        game.Choose(Any({"MenuLabour", "MenuOrlen"}));
-    } else if (kind == 2) {
-        game.Find<QScrollBar>("DockScroll", Player())->setValue(Pick(0, MaxSpaceDocks));
-    } else {
-        game.Click(Any({"Enviro", "PellamTools", "Micro"}), Player());
-    }
-}
-
 void RandomPlay::Look() {
-    const int owner = Pick(-1, game.state.NumPlayers);
-    if (Pick(1, 2) == 1) {
-        game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
-    } else {
+    const int owner = Pick(-1, 2 * game.state.NumPlayers);
+    if (owner > game.state.NumPlayers) {
         game.Move("PlanetScroller", Pick(0, MaxPlanets));
-    }
-}
-
-void RandomPlay::Trade() {
-    const int kind = Pick(1, 12);
-    if (kind == 1) {
-        game.Choose(Any({"Tres", "TFree", "TRestr", "TStop"}));
-    } else if (kind <= 5) {
-        game.Click(Any({"AddTAbutton", "AddTAbutton", "AddTAbutton", "RemoveTAButton"}));
     } else {
-        game.Click("TradePlayer", Player());
+        game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
     }
 }
 
@@ -79,11 +73,9 @@ void RandomPlay::Drag() {
 
 void RandomPlay::NameSomebody() {
     game.Click("PlayerName", Player());
+    const char* entry = Any(NameEntries);
     for (int letters = Pick(0, 5); letters > 0; --letters) {
-        QTest::keyClick(game.Find<QLineEdit>("NameEntry"), Letter());
-    }
-    if (Pick(1, 3) == 1) {
-        QTest::keyClick(game.Find<QLineEdit>("ShortNameEntry"), 'x');
+        QTest::keyClick(game.Find<QLineEdit>(entry), Letter());
     }
     if (Pick(1, 2) == 1) {
         game.Click("NameColor", Pick(1, 12));
@@ -99,7 +91,7 @@ void RandomPlay::NameSomebody() {
 void RandomPlay::ModifyCosts() {
     game.Choose("MenuTechMod");
     for (int move = Pick(0, 3); move > 0; --move) {
-        game.Find<QScrollBar>("VScroll1", Pick(0, 3))->setValue(Pick(0, MaxModifier));
+        game.Move("VScroll1", Pick(0, 3), Pick(0, MaxModifier));
     }
     game.Close("TechModForm");
 }

@@ -16,9 +16,7 @@ public:
 
 private:
     void SetUp();
-    void Change();
     void Look();
-    void Trade();
     void Drag();
     void NameSomebody();
     void ModifyCosts();

@@ -50,6 +50,9 @@ TEST(Steps, AreTakenBackAndMadeAgainByKeyAndSaidInTheContextMenu) {
     game.Redo();
     QTest::keyClick(&game.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(game.Caption("PlayerInfluence", 3), "10");
+    game.Undo();
+    game.Choose("TFree");
+    EXPECT_EQ(game.MenuTexts(), QStringList({"Undo Free Trade", "[Redo]"}));
 }
 
 TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
@@ -62,9 +65,13 @@ TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
     game.Move("VScroll1(0)", 0);
     game.Move("VScroll1(2)", 3);
     game.Close("TechModForm");
+    game.Choose("MenuTechMod");
+    game.Close("TechModForm"); // nothing was changed
     auto* docks = game.Find<SpinBar>("DockScroll", 2);
     QTest::mousePress(docks, Qt::LeftButton, {}, QPoint(8, 5));
     docks->triggerAction(QAbstractSlider::SliderSingleStepSub); // as holding it does
+    game.Move("DockScroll(2)", 9);                              // back where it began in between
+    game.Move("DockScroll(2)", 7);
     QTest::mouseRelease(docks, Qt::LeftButton, {}, QPoint(8, 5));
     const auto shown = [&] {
         return game.Caption("SpaceDocks", 2) + game.Caption("PlayerGreenTech", 1) +
@@ -74,8 +81,35 @@ TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
         EXPECT_EQ(shown(), figures);
         game.Undo();
     }
-    EXPECT_EQ(game.Back("PlayerName", 1), QColor(255, 128, 0));
     EXPECT_EQ(game.MenuTexts().first(), "[Undo]");
+}
+
+TEST(Steps, ASelectionIsOneThatCanBeTakenBackInItsMiddle) {
+    Steps game;
+    const auto select = [&](std::initializer_list<const char*> clicks) {
+        for (const char* control : clicks) {
+            game.Click(control);
+        }
+        return game.MenuTexts().first().toStdString();
+    };
+    EXPECT_EQ(select({"AddTAbutton", "TradePlayer(3)"}), "Undo Add");
+    game.Undo();
+    EXPECT_EQ(game.state.TradeInfo, "\r\nPress Add to make a Trade Agreement");
+    game.Redo();
+    EXPECT_EQ(select({"TradePlayer(5)"}), "Undo agreement of Player 3 and Player 5");
+    game.Undo();
+    EXPECT_EQ(select({}), "[Undo]");
+    game.Redo();
+    select({"AddTAbutton", "TradePlayer(5)", "TradePlayer(3)"});
+    game.Undo();
+    EXPECT_EQ(select({}), "[Undo]") << "what was refused is no step";
+    select({"AddTAbutton", "TradePlayer(4)", "Enviro(1)"});
+    game.Undo();
+    EXPECT_EQ(select({}), "Undo Add") << "what else is done in a selection is a step";
+    game.Choose("Tres");
+    EXPECT_EQ(select({"TradePlayer(2)", "TradePlayer(7)"}), "Undo Economic Independance");
+    game.Undo();
+    EXPECT_EQ(select({}), "[Undo]") << "it took the selection over";
 }
 
 TEST(Steps, StartIsFinalAndALoadedGameIsNot) {

@@ -130,15 +130,16 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
 
 /// A game in which everything that adds to a figure is there or not by chance.
 Game RandomGame(std::mt19937& random) {
-    const auto pick = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
-    const auto byte = [&](int most) { return static_cast<std::uint8_t>(pick(most)); };
+    const auto pick = [&](int most) {
+        return static_cast<std::uint8_t>(std::uniform_int_distribution(0, most)(random));
+    };
     Game game;
     game.NumPlanets = 40;
     for (PlanetRecord& planet : game.LoadedPlanets()) {
-        planet = {pick(9) == 0 ? "Quessin" : "P", byte(9), byte(9), static_cast<Specialty>(pick(3)),
-                  byte(MaxPlayers)};
+        planet = {pick(9) == 0 ? "Quessin" : "P", pick(9), pick(9), static_cast<Specialty>(pick(3)),
+                  pick(MaxPlayers)};
     }
-    for (int player = 1; player <= MaxPlayers; ++player) {
+    for (int player = 2; player <= MaxPlayers; ++player) {
         PlayerRecord& record = game.Player(player);
         record.Race = static_cast<Race>(pick(RaceCount));
         TakeCostsOfRace(record);
@@ -146,14 +147,12 @@ Game RandomGame(std::mt19937& random) {
         record.Enviro = pick(1) == 1;
         record.PellamTools = pick(1) == 1;
         record.Micro = pick(1) == 1;
-        if (player > 1 && pick(1) == 1) {
-            game.Cell(player, 1 + pick(player - 2)) = Agreement;
-        }
+        game.Cell(player, 1 + pick(player - 2)) = pick(1) == 1 ? Agreement : NoAgreement;
     }
-    game.Laws.LabourUnion = pick(1) == 1;
-    game.Laws.FreeTrade = pick(1) == 1;
-    game.Laws.TradeRestrictions = pick(1) == 1;
-    game.RedModifier = static_cast<std::int16_t>(pick(MaxModifier));
+    game.Laws = {
+        .LabourUnion = pick(1) == 1, .FreeTrade = pick(1) == 1, .TradeRestrictions = pick(1) == 1};
+    game.RedModifier = pick(MaxModifier);
+    game.YellowModifier = pick(MaxModifier);
     return game;
 }
 

@@ -1,8 +1,7 @@
-// Plays at random in the current folder, and keeps the game there, until it is killed. For each
-// change that is done it prints what the game then is.
+// Goes on with the game that is kept in the current folder, or begins a new one, and plays at
+// random until it is killed. Prints what the game is at first and after each change.
 //
 //   ksm_played_game SEED
-//   ksm_played_game --load    prints what the kept game is, or why it cannot be loaded
 
 #include "controls/look.h"
 #include "saves/game_file.h"
@@ -17,38 +16,26 @@
 namespace {
 
 /// Short, and the same for the same game and notes.
-std::string Fingerprint(ksm::GameState state) {
+void Print(ksm::GameState state) {
     state.View = {};
-    return QCryptographicHash::hash(ksm::WriteGame(state), QCryptographicHash::Sha1)
-        .toHex()
-        .toStdString();
-}
-
-int Load() {
-    const ksm::ReadGameResult read = ksm::LoadGameFile(ksm::KeptGameName);
-    std::cout << (read.Game ? Fingerprint(*read.Game) : read.Problem.toStdString()) << std::endl;
-    return read.Game ? 0 : 1;
-}
-
-[[noreturn]] void Play(unsigned seed) {
-    ksm::KeptGame kept(ksm::GameOfTwentyPlanets());
-    ksm::GameWindow game(ksm::GameOfTwentyPlanets(), &kept);
-    QObject::connect(&game.window, &ksm::Korvane::Changed,
-                     [&] { std::cout << Fingerprint(game.state) << std::endl; });
-    ksm::RandomPlay play(game, seed);
-    for (;;) {
-        play.Step();
-    }
+    const auto hash = QCryptographicHash::hash(ksm::WriteGame(state), QCryptographicHash::Sha1);
+    std::cout << hash.toHex().toStdString() << std::endl;
 }
 
 } // namespace
 
-int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+int main(int, char* argv[]) {
+    int none = 0;
+    QApplication application(none, argv);
     ksm::ApplyLook();
-    const std::string_view task = argc > 1 ? argv[1] : "1";
-    if (task == "--load") {
-        return Load();
+    const ksm::ReadGameResult read = ksm::LoadGameFile(ksm::KeptGameName);
+    const ksm::GameState start = read.Game.value_or(ksm::GameOfTwentyPlanets());
+    ksm::KeptGame kept(start);
+    ksm::GameWindow game(start, &kept);
+    QObject::connect(&game.window, &ksm::Korvane::Changed, [&] { Print(game.state); });
+    Print(start);
+    ksm::RandomPlay play(game, static_cast<unsigned>(std::atoi(argv[1])));
+    for (;;) {
+        play.Step();
     }
-    Play(static_cast<unsigned>(std::atoi(task.data())));
 }

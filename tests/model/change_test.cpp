@@ -70,19 +70,5 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
     }
 }
 
-TEST(IsChange, NotByWhatIsOnlySaidOrComputed) {
-    const Game before = NamedGame();
-    Game after = before;
-    UpdateValues(after);
-    after.TradeInfo = "P2 and P1 already have a TA";
-    after.TradeFirst = 3;
-    after.TurnOrderRows[0].Name = "Ada";
-    EXPECT_FALSE(IsChange(before, after));
-    after.TradeMode = TradeMode::AddPartner;
-    const Game first = after;
-    after.TradeFirst = 4;
-    EXPECT_TRUE(IsChange(first, after)) << "the selection goes another way";
-}
-
 } // namespace
 } // namespace ksm

@@ -1,6 +1,5 @@
 #include "economy/value_update.h"
 #include "planets/board_listing.h"
-#include "planets/owner_place.h"
 
 #include <gtest/gtest.h>
 
@@ -39,6 +38,8 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
         {BoardGame(5, AllPlanets), {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}},
         {BoardGame(101, 10), {0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22}},
         {BoardGame(101, 10, 39), {78, 80, 82, 84, 86, 88, 90, 92, 94, 96, 98, 100}},
+        {BoardGame(4, NeutralOwner),
+         {1, 3, none, none, none, none, none, none, none, none, none, none}},
         {BoardGame(4, 10), {0, 2, none, none, none, none, none, none, none, none, none, none}}};
     for (const auto& [state, expected] : rows) {
         EXPECT_EQ(ListBoard(state), expected) << state.NumPlanets << " planets";
@@ -54,14 +55,6 @@ TEST(BoardListing, ListsAnewOnlyAnOwnerWhoCanBeSeen) {
         state.NumPlayers = players;
         RelistBoard(state);
         EXPECT_EQ(state.View.BoardPlayer, listed) << owner << " of " << players;
-    }
-}
-
-TEST(OwnerPlace, SpacesTheOwnersOnTheBoard) {
-    for (const auto& [players, first, last] : {std::tuple{2, 36, 61}, std::tuple{6, 36, 161},
-                                               std::tuple{7, 31, 157}, std::tuple{10, 31, 166}}) {
-        EXPECT_EQ(TopOfOwner(1, players), first) << players;
-        EXPECT_EQ(TopOfOwner(players, players), last) << players;
     }
 }
 

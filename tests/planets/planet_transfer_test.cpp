@@ -23,11 +23,11 @@ std::vector<int> List(const GameState& state, int owner) {
 TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     GameState state = GameOfTwentyPlanets();
     EXPECT_TRUE(TransferPlanet(state, 0, 10) && TransferPlanet(state, 19, 10));
-    EXPECT_EQ(state.Planet(19).Owner, 10);
     EXPECT_EQ(List(state, 10), (std::vector{0, 19}));
     const std::vector<int> pool = List(state, NeutralOwner);
     EXPECT_TRUE(pool.size() == 18 && pool.front() == 1 && pool.back() == 18);
     TransferPlanet(state, 19, 6);
+    EXPECT_EQ(state.Planet(19).Owner, 6);
     EXPECT_EQ(List(state, 10), (std::vector{0, 19})) << "from all planets the entry stays";
     EXPECT_EQ(List(state, NeutralOwner), pool);
     state.View.BoardPlayer = 10;
@@ -38,17 +38,15 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
 
 TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
     GameState state = GameOfTwentyPlanets();
-    TransferPlanet(state, 5, 4);
     const GameState before = state;
-    EXPECT_FALSE(TransferPlanet(state, 5, 4));
+    EXPECT_FALSE(TransferPlanet(state, 5, NeutralOwner));
     EXPECT_FALSE(TransferPlanet(state, 20, 4)) << "a row behind the last planet of a short list";
     EXPECT_EQ(state, before);
-
     state.Player(4).PlanetList.fill(9);
+    state.View.BoardPlayer = 10; // whose list is empty
     GameState expected = state;
     expected.Planet(9).Owner = 4;
     EXPECT_TRUE(TransferPlanet(state, 9, 4));
-    expected.Player(NeutralOwner).PlanetList = state.Player(NeutralOwner).PlanetList;
     EXPECT_EQ(state, expected) << "the planet changes hands all the same";
     state.View.BoardPlayer = 4;
     TransferPlanet(state, 9, 2);

@@ -9,12 +9,9 @@ namespace {
 
 void CloseFirstWindow() {
     QTextStream said(stdout);
-    if (const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        said << box->text();
-    } else {
-        for (const QWidget* window : QApplication::topLevelWidgets()) {
-            said << (window->isVisible() ? window->windowTitle() : QString());
-        }
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        const auto* box = qobject_cast<const QMessageBox*>(window);
+        said << (box ? box->text() : window->isVisible() ? window->windowTitle() : QString());
     }
     QApplication::closeAllWindows();
 }

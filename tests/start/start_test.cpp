@@ -1,7 +1,6 @@
 // The program from its start to its exit status.
 
 #include "app/display_choice.h"
-#include "planets/planet_list_file.h"
 
 #include <QFile>
 #include <QLockFile>
@@ -22,10 +21,10 @@ protected:
     }
 
     QString Path(const char* name) const { return folder.filePath(QLatin1StringView(name)); }
-    void WriteList(const QByteArray& text) const {
-        QFile list(folder.filePath(QLatin1StringView(PlanetListName)));
-        ASSERT_TRUE(list.open(QFile::WriteOnly));
-        list.write(text);
+    void Write(const char* name, const QByteArray& text) const {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(text);
     }
     /// What the program's first window says, or what is said instead of a window.
     std::string Said(int status) const {
@@ -43,22 +42,19 @@ protected:
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
-TEST_F(Start, ShowsTheMainWindow) {
-    WriteList("Ith,1,2,\r\n");
+TEST_F(Start, ShowsTheMainWindowOnlyOfOneProgramAtATime) {
+    Write("Original.pln", "Ith,1,2,\r\n");
+    Write("ksm.lock", "999999999\nksm\n"); // left by a crash
     EXPECT_EQ(Said(0), "Korvane Astrell Manager II");
+    QLockFile other(Path("ksm.lock"));
+    ASSERT_TRUE(other.lock());
+    EXPECT_EQ(Said(1), "KSM is already running!");
 }
 
 TEST_F(Start, RefusesAListThatCannotBeUsed) {
     EXPECT_NE(Said(1).find("Original.pln"), std::string::npos);
-    WriteList("Ith,999,2,\r\n");
+    Write("Original.pln", "Ith,999,2,\r\n");
     EXPECT_NE(Said(1).find("999"), std::string::npos);
-}
-
-TEST_F(Start, RunsOnce) {
-    WriteList("");
-    QLockFile other(Path("ksm.lock"));
-    ASSERT_TRUE(other.lock());
-    EXPECT_EQ(Said(1), "KSM is already running!");
 }
 
 TEST_F(Start, SaysThatThereIsNoDisplay) {
@@ -69,24 +65,20 @@ TEST_F(Start, SaysThatThereIsNoDisplay) {
 }
 
 TEST(ChooseDisplay, PrefersX11WhereADesktopOffersBoth) {
-    struct Row {
-        QByteArray Chosen, Wayland, X11, Platform;
-    };
-    for (const Row& row : std::vector<Row>{{"", "wayland-0", ":0", "xcb"},
-                                           {"", "wayland-0", "", ""},
-                                           {"", "", ":0", ""},
-                                           {"wayland", "wayland-0", ":0", "wayland"}}) {
-        const auto set = [](const char* name, const QByteArray& value) {
-            value.isEmpty() ? qunsetenv(name) : qputenv(name, value);
-        };
-        set("QT_QPA_PLATFORM", row.Chosen);
-        set("WAYLAND_DISPLAY", row.Wayland);
-        set("DISPLAY", row.X11);
+    const auto chosen = [](std::initializer_list<const char*> offered) {
+        for (const char* variable : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
+            qunsetenv(variable);
+        }
+        for (const char* variable : offered) {
+            qputenv(variable, "wayland");
+        }
         ChooseDisplay();
-        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), row.Platform)
-            << "with " << row.Chosen.toStdString() << row.Wayland.toStdString()
-            << row.X11.toStdString();
-    }
+        return qgetenv("QT_QPA_PLATFORM");
+    };
+    EXPECT_EQ(chosen({"WAYLAND_DISPLAY", "DISPLAY"}), "xcb");
+    EXPECT_EQ(chosen({"WAYLAND_DISPLAY"}), "");
+    EXPECT_EQ(chosen({"DISPLAY"}), "");
+    EXPECT_EQ(chosen({"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}), "wayland");
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
