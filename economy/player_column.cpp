@@ -219,7 +219,6 @@ void PlayerColumn::DockScroll_Change(int value) {
     const int docks = MaxSpaceDocks - value;
     if (docks != Record().SpaceDocks) {
         Record().SpaceDocks = docks;
-        SpaceDocks->SetCaption(QString::number(docks));
         SpaceDocks_Change();
     }
 }

@@ -253,7 +253,7 @@ void PlanetBoard::Carry(int step) {
     const int owners = state.NumPlayers + 1;
     int next = carried->Over;
     do {
-        next = next < 0 ? (step > 0 ? 0 : owners - 1) : (next + step + owners) % owners;
+        next = (next + step + owners) % owners; // first from -1 to the pool
     } while (next == state.View.BoardPlayer);
     Row(carried->Row).SetNote(", over " + InvasionPlayer[next]->Caption());
     InvasionPlayer_DragOver(next, *carried);

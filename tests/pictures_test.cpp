@@ -90,6 +90,7 @@ QImage Column(const QList<QImage>& parts) {
 
 QImage Shown(const GameState& state) {
     GameWindow game(state);
+    game.Move("PlanetScroller", 0);
     return Grab(game.window);
 }
 

@@ -73,11 +73,12 @@ TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
     game.Move("DockScroll(2)", 9);                              // back where it began in between
     game.Move("DockScroll(2)", 7);
     QTest::mouseRelease(docks, Qt::LeftButton, {}, QPoint(8, 5));
+    game.Move("DockScroll(2)", 6);
     const auto shown = [&] {
         return game.Caption("SpaceDocks", 2) + game.Caption("PlayerGreenTech", 1) +
                game.Caption("PlayerRedTech", 1) + game.Caption("PlayerName", 1);
     };
-    for (const char* figures : {"34542Ada", "14542Ada", "13030Ada", "13030Player 1"}) {
+    for (const char* figures : {"44542Ada", "34542Ada", "14542Ada", "13030Ada", "13030Player 1"}) {
         EXPECT_EQ(shown(), figures);
         game.Undo();
     }

@@ -75,6 +75,8 @@ TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
     QObject::connect(load, &LoadForm::GameLoaded,
                      [&](const GameState& read) { loaded << WriteGame(read); });
     auto* list = form->findChild<QListWidget*>("File1");
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(Box()->text(), "first.ksm");
     for (const int row : {0, 1}) {
         const QPoint place = list->visualItemRect(list->item(row)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
