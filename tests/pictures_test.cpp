@@ -58,7 +58,7 @@ struct Evening : GameWindow {
         for (int player = 1; player <= players; ++player) {
             for (int other = player + 1; other <= players; other += 3) {
                 Click("AddTAbutton");
-                Trade(player, other);
+                other % 2 == 0 ? Trade(other, player) : Trade(player, other);
             }
         }
         Choose("TFree");
@@ -122,6 +122,7 @@ QImage DragInMidAir() {
 QImage FocusRings() {
     Evening evening(3);
     evening.Activate();
+    QTest::mousePress(evening.Find<QWidget>("PlayNumScroll"), Qt::LeftButton, {}, QPoint(8, 5));
     QList<QImage> controls;
     for (const char* name :
          {"PlayNumScroll", "OptionNormal", "Race(1)", "StartGameButton", "PlayerName(1)",

@@ -52,11 +52,8 @@ void RandomPlay::SetUp() {
 
 void RandomPlay::Look() {
     const int owner = Pick(-1, 2 * game.state.NumPlayers);
-    if (owner > game.state.NumPlayers) {
-        game.Move("PlanetScroller", Pick(0, MaxPlanets));
-    } else {
-        game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
-    }
+    owner > game.state.NumPlayers ? game.Move("PlanetScroller", Pick(0, MaxPlanets))
+                                  : game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
 }
 
 void RandomPlay::Drag() {
@@ -80,11 +77,7 @@ void RandomPlay::NameSomebody() {
     if (Pick(1, 2) == 1) {
         game.Click("NameColor", Pick(1, 12));
     }
-    if (Pick(1, 4) > 1) {
-        game.Click("ColorOK");
-    } else {
-        game.Close("ColorSelectForm");
-    }
+    Pick(1, 4) > 1 ? game.Click("ColorOK") : game.Close("ColorSelectForm");
     DeleteClosed();
 }
 

@@ -104,11 +104,12 @@ TEST(Keys, OfTheMainWindowWorkBesideIt) {
         Keys game;
         game.Choose(item);
         auto* window = game.Find<QWidget>(form);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        const auto isActive = [&] { return QApplication::activeWindow() == window; };
+        ASSERT_TRUE(QTest::qWaitFor(isActive));
         game.Press(Qt::Key_F5);
         game.Close("TechForm");
         window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        ASSERT_TRUE(QTest::qWaitFor(isActive));
         QTest::keyClick(window, Qt::Key_L, Qt::AltModifier);
         auto* menu = game.Find<QMenu>("MenuLaws");
         EXPECT_TRUE(menu->isVisible()) << form;

@@ -180,6 +180,8 @@ TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
         label.setEnabled(isEnabled);
         of(&label)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         EXPECT_EQ(clicks.count(), pressed) << "only what is shown and enabled can be pressed";
+        EXPECT_EQ(of(&label)->actionInterface()->actionNames().contains("Press"),
+                  isShown && isEnabled);
     }
     SpinBar docks("DockScroll(3)", QRect(0, 0, 17, 25), &window);
     docks.SetRange(0, 10, 9);

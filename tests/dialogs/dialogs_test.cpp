@@ -40,6 +40,16 @@ TEST_F(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
     }
 }
 
+TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {
+    const TechForm form(&owner);
+    const auto told = [&](const char* box) {
+        return form.findChild<QLabel*>(box)->accessibleName();
+    };
+    EXPECT_EQ(told("Label1(2)"),
+              "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS");
+    EXPECT_EQ(told("Label1(3)"), "ORBITAL FOUNDRY, yellow, needs MICRO TECHNOLOGY and PHASE DRIVE");
+}
+
 TEST_F(Dialogs, TextsOfAChartFitAndAClickAnywhereButOnTheLegendUnloadsIt) {
     for (const char* name : {"Label1(0)", "Label1(23)", "Label2", "TechForm2"}) {
         const QPointer form(new TechForm2(&owner));

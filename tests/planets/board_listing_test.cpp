@@ -19,18 +19,6 @@ GameState BoardGame(int planets, int owner, int position = 0) {
     return state;
 }
 
-TEST(BoardListing, ScrollsAsFarAsTheLastPage) {
-    for (const auto& [planets, owner, maximum] :
-         {std::tuple{5, AllPlanets, 0}, std::tuple{12, AllPlanets, 0},
-          std::tuple{101, AllPlanets, 89}, std::tuple{24, 10, 0}, std::tuple{26, 10, 1},
-          std::tuple{26, 4, 0}, std::tuple{26, NeutralOwner, 1}}) {
-        GameState state = BoardGame(planets, owner);
-        state.Planet(25).Owner = 4;
-        EXPECT_EQ(BoardMaximum(state), maximum)
-            << planets << " of owner " << owner << ", as last counted";
-    }
-}
-
 TEST(BoardListing, ListsFromThePositionInTableOrder) {
     constexpr auto none = NoPlanet;
     const std::pair<GameState, BoardRows> rows[]{

@@ -1,4 +1,5 @@
 #include "saves/kept_game.h"
+#include "tests/game_window.h"
 #include "tests/saves/saves_folder.h"
 
 #include <QFileInfo>
@@ -22,6 +23,19 @@ TEST_F(KeptGames, AreWrittenWhenTheGameChanged) {
     game.NotesText = "late";
     kept.Keep(game);
     EXPECT_EQ(NotesIn(KeptGameName), "late");
+}
+
+TEST_F(KeptGames, FollowTheMainWindowWhichSaysWhyOneCannotBeKept) {
+    KeptGame kept(GameOfTwentyPlanets());
+    GameWindow game(GameOfTwentyPlanets(), &kept);
+    game.Click("Enviro", 2);
+    EXPECT_TRUE(LoadGameFile(KeptGameName).Game == game.state);
+    QFile::remove(KeptGameName);
+    QDir().mkdir(KeptGameName);
+    game.Click("Enviro", 2);
+    const MessageBoxes boxes;
+    game.Choose("SGame");
+    EXPECT_EQ(boxes.Said.value(1), "The running game is not kept in \"autosave.ksm\".");
 }
 
 TEST_F(KeptGames, TheEveningBeforeGetsAnotherName) {
