@@ -55,7 +55,7 @@ TEST(Steps, AreTakenBackAndMadeAgainByKeyAndSaidInTheContextMenu) {
     EXPECT_EQ(game.MenuTexts(), QStringList({"Undo Free Trade", "[Redo]"}));
 }
 
-TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
+TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     Steps game;
     game.Click("PlayerName", 1);
     QTest::keyClicks(game.Find<QLineEdit>("NameEntry"), "Ada");
@@ -73,12 +73,14 @@ TEST(Steps, ADialogOrAHeldArrowIsOneStep) {
     game.Move("DockScroll(2)", 9);                              // back where it began in between
     game.Move("DockScroll(2)", 7);
     QTest::mouseRelease(docks, Qt::LeftButton, {}, QPoint(8, 5));
-    game.Move("DockScroll(2)", 6);
+    QTest::keyPress(docks, Qt::Key_Up);
+    QTest::keyPress(docks, Qt::Key_Up);
+    QTest::keyRelease(docks, Qt::Key_Up);
     const auto shown = [&] {
         return game.Caption("SpaceDocks", 2) + game.Caption("PlayerGreenTech", 1) +
                game.Caption("PlayerRedTech", 1) + game.Caption("PlayerName", 1);
     };
-    for (const char* figures : {"44542Ada", "34542Ada", "14542Ada", "13030Ada", "13030Player 1"}) {
+    for (const char* figures : {"54542Ada", "34542Ada", "14542Ada", "13030Ada", "13030Player 1"}) {
         EXPECT_EQ(shown(), figures);
         game.Undo();
     }
