@@ -13,23 +13,24 @@ TEST(Windows, TheMainOneStandsInTheMiddleOfTheScreen) {
 
 TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
     const struct {
-        const char *item, *form;
+        const char *item, *form, *title;
         Qt::Key key;
         QPoint place;
         bool isModal;
-    } rows[]{{"LGame", "LoadForm", Qt::Key_F1, {3, 44}, true},
-             {"SGame", "SaveForm", Qt::Key_F2, {3, 44}, true},
-             {"Stech", "TechForm", Qt::Key_F5, {0, 0}, true},
-             {"HTech", "TechForm2", Qt::Key_F6, {0, 0}, true},
-             {"MenuTechMod", "TechModForm", {}, {204, 70}, true},
-             {"About", "AboutForm", {}, {142, 79}, true},
-             {"Notes", "NoteForm", {}, {560, 220}, false},
-             {"Dice", "DiceForm", {}, {560, 33}, false}};
+    } rows[]{{"LGame", "LoadForm", "Load Game", Qt::Key_F1, {3, 44}, true},
+             {"SGame", "SaveForm", "Save Game", Qt::Key_F2, {3, 44}, true},
+             {"Stech", "TechForm", "Flowchart (Standard)", Qt::Key_F5, {0, 0}, true},
+             {"HTech", "TechForm2", "Flowchart (Corrin's End)", Qt::Key_F6, {0, 0}, true},
+             {"MenuTechMod", "TechModForm", "Tech cost modifiers", {}, {204, 70}, true},
+             {"About", "AboutForm", "About Korvane Astrell Manager", {}, {142, 79}, true},
+             {"Notes", "NoteForm", "Notes", {}, {560, 220}, false},
+             {"Dice", "DiceForm", "Dice Roller", {}, {560, 33}, false}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.form);
         GameWindow game;
         game.Choose(row.item);
         const QPointer form(game.Find<QWidget>(row.form));
+        EXPECT_TRUE(form->windowTitle().endsWith(row.title));
         EXPECT_EQ(form->pos() - game.window.pos(), row.place);
         EXPECT_TRUE(form->isVisible() && form->isModal() == row.isModal);
         QTest::keyClick(form, Qt::Key_Escape);
