@@ -61,8 +61,9 @@ TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
     NumPlanets = 0;
     EXPECT_EQ(Text(Resources), "Resources 0" + law);
     NumPlanets = 13;
-    std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, {}, 4});
+    std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, Specialty::Red, 4});
     EXPECT_EQ(Text(Influence), "Influence 26 = 26 of 13 planets" + law);
+    EXPECT_EQ(Text(RedCost), "Red cost 4 = 30 base cost of Altheran\n- 26 of 13 planets");
 }
 
 TEST_F(Explanations, OfCredits) {

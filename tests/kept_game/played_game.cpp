@@ -24,9 +24,8 @@ void Print(ksm::GameState state) {
 
 } // namespace
 
-int main(int, char* argv[]) {
-    int none = 0;
-    QApplication application(none, argv);
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
     ksm::ApplyLook();
     const ksm::ReadGameResult read = ksm::LoadGameFile(ksm::KeptGameName);
     const ksm::GameState start = read.Game.value_or(ksm::GameOfTwentyPlanets());
