@@ -1,18 +1,18 @@
 // The windows that the main window opens, and how they close with it.
 
-#include "app/color_select_form.h"
 #include "app/korvane.h"
 #include "app/main_menu.h"
 #include "controls/message_box.h"
 #include "controls/twips.h"
 #include "dialogs/about_form.h"
+#include "dialogs/color_select_form.h"
 #include "dialogs/dice_form.h"
 #include "dialogs/load_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/save_form.h"
 #include "dialogs/tech_form.h"
+#include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
-#include "economy/tech_mod_form.h"
 #include "saves/kept_game.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "app/color_select_form.h"
+#include "dialogs/color_select_form.h"
 
 #include "controls/caption_label.h"
 #include "controls/element_name.h"

@@ -1,4 +1,4 @@
-#include "economy/tech_mod_form.h"
+#include "dialogs/tech_mod_form.h"
 
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
