@@ -121,11 +121,7 @@ void TradePanel::ShowStrokes(std::span<const Stroke> strokes) {
 }
 
 void TradePanel::ShowInfo() {
-    QStringList names;
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        names << QString::fromStdString(game.Player(player).Name);
-    }
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo), names);
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
 }
 
 void TradePanel::ShowPlayer(int player) {
