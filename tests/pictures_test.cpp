@@ -211,7 +211,7 @@ QImage Opened(const char* item, const char* form) {
     QDir::setCurrent(folder.path());
     for (const char* name : {"friday.ksm", "a long evening with everybody.ksm", ".ksm", "B.ksm",
                              "saturday.ksm", "C.KSM", "other.txt"}) {
-        QFile(name).open(QIODevice::WriteOnly);
+        EXPECT_TRUE(QFile(name).open(QIODevice::WriteOnly));
     }
     Evening evening(2);
     evening.state.NotesText = "Ada owes Bo 5.\n\tOne\tTwo\n" + std::string(1001, '!');

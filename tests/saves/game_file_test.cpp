@@ -68,7 +68,7 @@ TEST_F(GameFile, RemovesOnlyWhatDeadProcessesLeft) {
     const QStringList dead{begin + "999999999.tmp", begin + "999999998-old.tmp"};
     for (const QString& name :
          dead + QStringList{begin + "1-old.tmp", begin + "x.tmp", ".ksm-elsewhere-999999999.tmp"}) {
-        QFile(name).open(QIODevice::WriteOnly);
+        EXPECT_TRUE(QFile(name).open(QIODevice::WriteOnly));
     }
     ASSERT_EQ(SaveGameFile("a.ksm", SampleGame()), "");
     EXPECT_FALSE(QFileInfo::exists(dead[0]) || QFileInfo::exists(dead[1]));
