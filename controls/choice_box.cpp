@@ -37,7 +37,11 @@ void ChoiceBox::TakeLineEdit() {
 
 void ChoiceBox::ShowChoice(int index) {
     setCurrentIndex(index);
-    setEditText(index >= 0 ? itemText(index) : emptyCaption);
+    const QString& text = index >= 0 ? itemText(index) : emptyCaption;
+    // A screen reader is told of every text that is set, also of the same one.
+    if (lineEdit()->text() != text) {
+        setEditText(text);
+    }
     lineEdit()->setCursorPosition(0);
 }
 
