@@ -1,5 +1,6 @@
 #include "controls/message_label.h"
 
+#include "controls/accessible_names.h"
 #include "controls/fitting_font.h"
 #include "controls/plain_tool_tip.h"
 
@@ -36,6 +37,7 @@ void MessageLabel::SetCaption(const QString& text) {
     if (text != caption) {
         caption = text;
         setAccessibleName(caption.simplified());
+        Announce(*this, accessibleName());
         Fit();
         update();
     }
