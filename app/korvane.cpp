@@ -16,6 +16,7 @@
 #include "trade/trade_panel.h"
 
 #include <QAbstractButton>
+#include <QDateTime>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -46,7 +47,7 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                Qt::WindowCloseButtonHint),
-      state(game), history(game), kept(keeper) {
+      state(game), history(game.Game), kept(keeper) {
     setObjectName("Korvane");
     setWindowTitle(ProgramTitle);
     menu = new MainMenu(this);
@@ -72,11 +73,11 @@ Korvane::~Korvane() {
 
 void Korvane::MakePanels() {
     // The order of the Tab key.
-    setup = new SetupPanel(state, client);
-    table = new PlayerTable(state, client);
-    summary = new TurnOrderTable(state, client);
+    setup = new SetupPanel(state.Game, client);
+    table = new PlayerTable(state.Game, client);
+    summary = new TurnOrderTable(state.Game, client);
     board = new PlanetBoard(state, client);
-    trade = new TradePanel(state, client);
+    trade = new TradePanel(state.Game, client);
     setup->raise();
     // The focus starts on no control, and a click on the background takes it away from one.
     client->setFocusPolicy(Qt::ClickFocus);
@@ -114,8 +115,8 @@ void Korvane::ConnectMenu() {
 void Korvane::ConnectTradeLaws() {
     const auto connectLaw = [this](QAction* item, TradeOutcome (*click)(Game&)) {
         connect(item, &QAction::triggered, this, [this, click] {
-            const TradeOutcome outcome = click(state);
-            menu->ShowLaws(state.Laws);
+            const TradeOutcome outcome = click(state.Game);
+            menu->ShowLaws(state.Game.Laws);
             trade->Apply(outcome); // which announces the change
         });
     };
@@ -126,20 +127,20 @@ void Korvane::ConnectTradeLaws() {
 }
 
 void Korvane::UpdateValues() {
-    ksm::UpdateValues(state);
+    ksm::UpdateValues(state.Game);
     table->ShowValues();
     trade->ShowValues();
     TurnOrder();
 }
 
 void Korvane::TurnOrder() {
-    ksm::TurnOrder(state);
+    ksm::TurnOrder(state.Game);
     summary->ShowTurnOrder();
 }
 
 void Korvane::LayoutForPlayerCount() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        if (player > state.NumPlayers) {
+        if (player > state.Game.NumPlayers) {
             HidePlayerControls(player);
             continue;
         }
@@ -171,11 +172,11 @@ void Korvane::ShowPlayer(int player) {
 }
 
 void Korvane::ShowPhase() {
-    setup->setVisible(!state.Started);
+    setup->setVisible(!state.Game.Started());
     table->ShowPhase();
     // The setup panel covers them; the focus must not get below it.
-    summary->setEnabled(state.Started);
-    board->setEnabled(state.Started);
+    summary->setEnabled(state.Game.Started());
+    board->setEnabled(state.Game.Started());
 }
 
 void Korvane::ShowGame() {
@@ -192,7 +193,7 @@ void Korvane::ShowGame() {
     trade->ShowInfo();
     trade->ShowDiagram();
     summary->ShowTurnOrder();
-    menu->ShowLaws(state.Laws);
+    menu->ShowLaws(state.Game.Laws);
     if (auto* notes = findChild<NoteForm*>()) {
         notes->ShowNotes();
     }
@@ -209,25 +210,25 @@ void Korvane::TakeGame(const GameState& loaded) {
 }
 
 void Korvane::StartGameButton_Click() {
-    StartGame(state);
+    StartGame(state.Game, QDateTime::currentMSecsSinceEpoch());
     client->setFocus(); // the button goes
     ShowPhase();
     UpdateValues();
     TurnOrder();
-    history.Restart(state);
+    history.Restart(state.Game);
     emit Changed();
 }
 
 void Korvane::MenuOrlen_Click() {
-    ksm::MenuOrlen_Click(state);
-    menu->ShowLaws(state.Laws);
+    ksm::MenuOrlen_Click(state.Game);
+    menu->ShowLaws(state.Game.Laws);
     TurnOrder();
     emit Changed();
 }
 
 void Korvane::MenuLabour_Click() {
-    ksm::MenuLabour_Click(state);
-    menu->ShowLaws(state.Laws);
+    ksm::MenuLabour_Click(state.Game);
+    menu->ShowLaws(state.Game.Laws);
     UpdateValues();
     TurnOrder();
     emit Changed();

@@ -38,14 +38,14 @@ public:
     void TurnOrder();
 
     // What is added to every cost of a colour, plus 15: 0..30. Writing has no other effect.
-    std::int16_t GreenModifier() const { return state.GreenModifier; }
-    void SetGreenModifier(std::int16_t modifier) { state.GreenModifier = modifier; }
-    std::int16_t BlueModifier() const { return state.BlueModifier; }
-    void SetBlueModifier(std::int16_t modifier) { state.BlueModifier = modifier; }
-    std::int16_t YellowModifier() const { return state.YellowModifier; }
-    void SetYellowModifier(std::int16_t modifier) { state.YellowModifier = modifier; }
-    std::int16_t RedModifier() const { return state.RedModifier; }
-    void SetRedModifier(std::int16_t modifier) { state.RedModifier = modifier; }
+    std::int16_t GreenModifier() const { return state.Game.GreenModifier; }
+    void SetGreenModifier(std::int16_t modifier) { state.Game.GreenModifier = modifier; }
+    std::int16_t BlueModifier() const { return state.Game.BlueModifier; }
+    void SetBlueModifier(std::int16_t modifier) { state.Game.BlueModifier = modifier; }
+    std::int16_t YellowModifier() const { return state.Game.YellowModifier; }
+    void SetYellowModifier(std::int16_t modifier) { state.Game.YellowModifier = modifier; }
+    std::int16_t RedModifier() const { return state.Game.RedModifier; }
+    void SetRedModifier(std::int16_t modifier) { state.Game.RedModifier = modifier; }
 
 signals:
     /// The user did something, and the state is whole again. Everything that changes the state ends

@@ -43,7 +43,7 @@ void Korvane::ConnectSteps() {
 }
 
 void Korvane::Keep() {
-    history.Record(state);
+    history.Record(state.Game);
     if (kept) {
         kept->Keep(state);
     }
@@ -67,7 +67,7 @@ void Korvane::Redo() {
 }
 
 void Korvane::Return(const Game& game) {
-    static_cast<Game&>(state) = game;
+    state.Game = game;
     RelistBoard(state);
     ShowGame();
     emit Changed();

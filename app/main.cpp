@@ -27,7 +27,7 @@ bool LoadPlanetList(ksm::GameState& state) {
                          QString::fromStdString(ksm::DescribeProblems(path, list.Problems)));
         return false;
     }
-    ksm::TakePlanets(state, list.Planets);
+    ksm::TakePlanets(state.Game, list.Planets);
     return true;
 }
 

@@ -10,7 +10,7 @@ namespace ksm {
 namespace {
 
 void UpdateFigures(benchmark::State& run) {
-    GameState game = FullGame(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
+    Game game = FullGame(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
     for ([[maybe_unused]] auto _ : run) {
         UpdateValues(game);
         benchmark::DoNotOptimize(game);

@@ -99,14 +99,15 @@ void ColorSelectForm::MakeSwatches() {
 }
 
 void ColorSelectForm::Form_Load() {
-    const bool named = !state.Player(player).Name.empty();
+    const bool named = !state.Game.Player(player).Name.empty();
     // A text that differs from the design text "Name" counts as a change.
-    NameEntry->setText(named ? QString::fromStdString(PlayerCaption(state, player)) : QString());
+    NameEntry->setText(named ? QString::fromStdString(PlayerCaption(state.Game, player))
+                             : QString());
 }
 
 void ColorSelectForm::NameEntry_Change(const QString& text) {
     const QString shortName = FirstCharacters(text, 3);
-    SetName(state, player, text.toStdString(), shortName.toStdString());
+    SetName(state.Game, player, text.toStdString(), shortName.toStdString());
     ShortNameEntry->setText(shortName);
     emit PlayerChanged(player);
     emit Changed();
@@ -115,15 +116,15 @@ void ColorSelectForm::NameEntry_Change(const QString& text) {
 // Also runs when the name brings its short name along.
 void ColorSelectForm::ShortNameEntry_Change(const QString& text) {
     const std::string shortName = text.toStdString();
-    if (shortName != state.Player(player).ShortName) {
-        state.Player(player).ShortName = shortName;
+    if (shortName != state.Game.Player(player).ShortName) {
+        state.Game.Player(player).ShortName = shortName;
         emit PlayerChanged(player);
         emit Changed();
     }
 }
 
 void ColorSelectForm::NameColor_Click(int swatch) {
-    SetColours(state, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
+    SetColours(state.Game, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
     emit PlayerChanged(player);
     emit Changed();
 }

@@ -76,7 +76,7 @@ Parts PlanetParts(const Game& game, int player, std::uint8_t PlanetRecord::*figu
 
 Parts ResourceParts(const Game& game, int player) {
     Parts parts = PlanetParts(game, player, &PlanetRecord::Resources);
-    const int planets = game.Player(player).PlanetCount;
+    const int planets = game.Player(player).Figures.PlanetCount;
     if (PellamToolsBonus(game, player) != 0 && planets != 0) {
         parts.push_back({planets, "Pellam Tools (" + Count(planets, "planet") + ")"});
     }
@@ -104,8 +104,8 @@ Parts CountParts(const Game& game, int player) {
 }
 
 Part PartnerPart(const Game& game, int player, int partner) {
-    const int own = game.Player(player).PlanetCount;
-    const int theirs = game.Player(partner).PlanetCount;
+    const int own = game.Player(player).Figures.PlanetCount;
+    const int theirs = game.Player(partner).Figures.PlanetCount;
     const int brought = game.Laws.TradeRestrictions ? std::min(own, theirs) : theirs;
     std::string words = (brought == 1 ? "planet of " : "planets of ") + SpokenName(game, partner);
     if (game.Laws.TradeRestrictions) {
@@ -117,7 +117,7 @@ Part PartnerPart(const Game& game, int player, int partner) {
 
 Parts CreditParts(const Game& game, int player) {
     const PartnerSet partners = TradePartners(game, player);
-    const int resources = game.Player(player).PlanetResources;
+    const int resources = game.Player(player).Figures.PlanetResources;
     Parts parts{{resources, resources == 1 ? "resource" : "resources"}};
     for (int partner = 1; partner <= MaxPlayers; ++partner) {
         if (partners[static_cast<std::size_t>(partner)]) {
@@ -219,7 +219,7 @@ std::string TieText(const Game& game, const TurnOrderRow& one, const TurnOrderRo
 } // namespace
 
 int ValueOf(const Game& game, int player, Figure figure) {
-    return game.Player(player).*DesignOf(figure).Value;
+    return game.Player(player).Figures.*DesignOf(figure).Value;
 }
 
 Explanation Explain(const Game& game, int player, Figure figure) {

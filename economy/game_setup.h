@@ -18,7 +18,7 @@ void TakeCostsOfRace(PlayerRecord& player);
 /// Gives every loaded planet of exactly this name to the player, whoever owned it.
 void AssignPlanetByName(Game& game, std::string_view name, int player);
 
-/// Ends setup for good.
-void StartGame(Game& game);
+/// Ends setup for good, at this time in milliseconds since 1970.
+void StartGame(Game& game, std::int64_t now);
 
 } // namespace ksm

@@ -165,7 +165,7 @@ void PlayerColumn::SetVisible(bool visible) {
 }
 
 void PlayerColumn::ShowPhase() {
-    Race->setVisible(!game.Started && player <= game.NumPlayers);
+    Race->setVisible(!game.Started() && player <= game.NumPlayers);
 }
 
 void PlayerColumn::ShowPlayer() {

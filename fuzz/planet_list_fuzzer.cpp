@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (list.Problems.empty()) {
         Require(!list.Planets.empty());
         GameState state;
-        TakePlanets(state, list.Planets);
+        TakePlanets(state.Game, list.Planets);
         for (const PlanetRecord& planet : list.Planets) {
             Require(planet.Name.find_first_of(",\r") == std::string::npos);
         }

@@ -69,7 +69,7 @@ private:
         if (before.NumPlayers != after.NumPlayers) {
             found.push_back(std::to_string(after.NumPlayers) + " players");
         }
-        if (before.Started != after.Started || before.NumPlanets != after.NumPlanets) {
+        if (before.Started() != after.Started() || before.NumPlanets != after.NumPlanets) {
             found.insert(found.end(), 2, "Load Game");
         }
         return found;
@@ -195,8 +195,7 @@ private:
 bool IsChange(const Game& before, const Game& after) {
     Game same = before;
     for (int slot = 0; slot < OwnerSlots; ++slot) {
-        const PlayerFigures& figures = after.Player(slot);
-        static_cast<PlayerFigures&>(same.Player(slot)) = figures;
+        same.Player(slot).Figures = after.Player(slot).Figures;
     }
     same.TradeCount = after.TradeCount;
     same.TurnOrderRows = after.TurnOrderRows;

@@ -72,7 +72,7 @@ void PlanetBoard::MakeRows() {
     rows.reserve(BoardRowCount);
     QList<QWidget*> names;
     for (int row = 0; row < BoardRowCount; ++row) {
-        const PlanetLabel* name = &rows.emplace_back(row, state, this).Name();
+        const PlanetLabel* name = &rows.emplace_back(row, state.Game, this).Name();
         connect(name, &PlanetLabel::Pressed, this, [this, row] { Take(row); });
         connect(name, &PlanetLabel::DraggedTo, this, &PlanetBoard::DragTo);
         connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
@@ -122,7 +122,7 @@ void PlanetBoard::ShowMarks() {
 }
 
 void PlanetBoard::PlaceOwner(int player) {
-    InvasionPlayer[player]->move(0, TopOfOwner(player, state.NumPlayers));
+    InvasionPlayer[player]->move(0, TopOfOwner(player, state.Game.NumPlayers));
 }
 
 void PlanetBoard::SetOwnerVisible(int player, bool visible) {
@@ -130,7 +130,7 @@ void PlanetBoard::SetOwnerVisible(int player, bool visible) {
 }
 
 void PlanetBoard::ShowPlayer(int player) {
-    InvasionPlayer[player]->SetCaption(QString::fromStdString(OwnerCaption(state, player)));
+    InvasionPlayer[player]->SetCaption(QString::fromStdString(OwnerCaption(state.Game, player)));
 }
 
 void PlanetBoard::InvasionPlayer_Click(int owner) {
@@ -241,7 +241,7 @@ void PlanetBoard::PickUpOrSetDown(int row) {
         Row(ended.Row).SetNote({});
         carried.reset();
         InvasionPlayer_DragDrop(ended.Over, ended);
-    } else if (!dragged && Row(row).Tag() < state.NumPlanets) {
+    } else if (!dragged && Row(row).Tag() < state.Game.NumPlanets) {
         Row(row).Name().setFocus();
         carried = {.Row = row, .Tag = Row(row).Tag()};
         Carry(+1);
@@ -250,7 +250,7 @@ void PlanetBoard::PickUpOrSetDown(int row) {
 
 void PlanetBoard::Carry(int step) {
     // Over the owners in the game, the pool first, round and round; never to the listed owner.
-    const int owners = state.NumPlayers + 1;
+    const int owners = state.Game.NumPlayers + 1;
     int next = carried->Over;
     do {
         next = (next + step + owners) % owners; // first from -1 to the pool

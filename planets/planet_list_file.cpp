@@ -173,7 +173,7 @@ void TakePlanets(Game& game, std::span<const PlanetRecord> planets) {
     std::ranges::copy(planets, game.Planets.begin());
     game.NumPlanets = static_cast<int>(planets.size());
     PlayerRecord& pool = game.Player(NeutralOwner);
-    pool.PlanetCount = game.NumPlanets;
+    pool.Figures.PlanetCount = game.NumPlanets;
     pool.PlanetList = EmptyPlanetList();
     for (std::size_t i = 0; i < planets.size(); ++i) {
         pool.PlanetList.at(i) = static_cast<std::uint8_t>(i);

@@ -20,12 +20,12 @@ ReadGameResult Damaged(const QString& problem) {
     return Refused("The saved game is damaged: " + problem);
 }
 
-void ComputeWhatFollows(GameState& state) {
-    for (PlayerRecord& player : state.Players) {
+void ComputeWhatFollows(Game& game) {
+    for (PlayerRecord& player : game.Players) {
         TakeCostsOfRace(player);
     }
-    UpdateValues(state);
-    TurnOrder(state);
+    UpdateValues(game);
+    TurnOrder(game);
 }
 
 } // namespace
@@ -60,7 +60,7 @@ ReadGameResult ReadGame(const QByteArray& bytes) {
     if (!problem.isEmpty()) {
         return Damaged(problem);
     }
-    ComputeWhatFollows(state);
+    ComputeWhatFollows(state.Game);
     const std::string contradiction = FindContradiction(state);
     if (!contradiction.empty()) {
         return Damaged("Game." + QString::fromStdString(contradiction));

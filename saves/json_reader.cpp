@@ -40,8 +40,11 @@ void JsonReader::Hue(const char* name, Colour& colour) {
 
 void JsonReader::Place(const char* name, Point& place, int right, int bottom) {
     const QJsonArray pair = TakeList(name, 2, 2);
-    place.X = CheckNumber(pair.at(0), Where(name, 0), place.X, 0, right);
-    place.Y = CheckNumber(pair.at(1), Where(name, 1), place.Y, 0, bottom);
+    const auto number = [&](qsizetype index, int otherwise, int most) {
+        return static_cast<int>(
+            CheckNumber(pair.at(index), Where(name, index), otherwise, 0, most));
+    };
+    place = {number(0, place.X, right), number(1, place.Y, bottom)};
 }
 
 void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, int longest,
@@ -82,11 +85,11 @@ QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
     return {};
 }
 
-int JsonReader::CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
-                            int most) {
-    const qint64 number = value.toInteger(qint64{least} - 1);
+qint64 JsonReader::CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
+                               qint64 least, qint64 most) {
+    const qint64 number = value.toInteger(least - 1);
     if (number >= least && number <= most) {
-        return static_cast<int>(number);
+        return number;
     }
     Refuse(where, QString("is not a whole number from %1 to %2").arg(least).arg(most));
     return otherwise;

@@ -32,7 +32,7 @@ public:
           firstProblem(problem) {}
 
     template<typename Whole>
-    void Number(const char* name, Whole& value, int least, int most) {
+    void Number(const char* name, Whole& value, qint64 least, qint64 most) {
         value = static_cast<Whole>(CheckNumber(Take(name), Where(name), value, least, most));
     }
     void Truth(const char* name, bool& value);
@@ -111,8 +111,8 @@ private:
 
     QJsonValue Take(const char* name);
     QJsonArray TakeList(const char* name, int fewest, int longest);
-    int CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
-                    int most);
+    qint64 CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
+                       qint64 least, qint64 most);
     std::size_t CheckWord(const char* name, std::size_t otherwise,
                           std::span<const std::string_view> words);
     QString Where(const char* name) const;

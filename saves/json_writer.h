@@ -24,7 +24,7 @@ public:
 
     explicit JsonWriter(Form ownForm = Form::Object) : form(ownForm) {}
 
-    void Number(const char* name, int value, int, int) { Put(name, value); }
+    void Number(const char* name, qint64 value, qint64, qint64) { Put(name, value); }
     void Truth(const char* name, bool value) { Put(name, value); }
     void Text(const char* name, const std::string& utf8);
     void Hue(const char* name, Colour colour);

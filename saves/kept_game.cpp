@@ -29,8 +29,7 @@ QString RenameEarlierGame() {
 } // namespace
 
 void KeptGame::Keep(const GameState& state) {
-    const bool changed = static_cast<const Game&>(state) != static_cast<const Game&>(kept) ||
-                         state.NotesText != kept.NotesText;
+    const bool changed = state.Game != kept.Game || state.NotesText != kept.NotesText;
     if (changed || !problem.isEmpty()) {
         problem = Write(state);
         kept = state;

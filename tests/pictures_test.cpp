@@ -41,7 +41,7 @@ struct Evening : GameWindow {
 
     static GameState DeliveredGame() {
         GameState game;
-        TakePlanets(game, ReadPlanetListFile(DELIVERED_PLANET_LIST).Planets);
+        TakePlanets(game.Game, ReadPlanetListFile(DELIVERED_PLANET_LIST).Planets);
         return game;
     }
     void Trade(int one, int other) const {
@@ -49,7 +49,7 @@ struct Evening : GameWindow {
         Click("TradePlayer", other);
     }
     void Play() {
-        const int players = state.NumPlayers;
+        const int players = state.Game.NumPlayers;
         Start();
         Move("PlanetScroller", 14);
         for (int row = 0; row < 12; ++row) {

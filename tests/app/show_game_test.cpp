@@ -42,13 +42,13 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
         loaded = *read.Game;
         // A file holds no marks of a drag, and who reads it ranks the players anew.
         loaded.View = played.state.View;
-        loaded.TurnOrderRows = played.state.TurnOrderRows;
+        loaded.Game.TurnOrderRows = played.state.Game.TurnOrderRows;
     });
     const QSignalSpy announced(&shown.window, &Korvane::Changed);
     RandomPlay play(played, 8);
     for (int step = 1; step <= 250 && !testing::Test::HasFailure(); ++step) {
         SCOPED_TRACE(step);
-        if (step == 100 && !played.state.Started) {
+        if (step == 100 && !played.state.Game.Started()) {
             played.Start();
         }
         play.Step();

@@ -112,8 +112,8 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
     NumPlayers = 6;
     for (const auto& [player, influence, resources] :
          {std::tuple{4, 9, 5}, {5, 9, 2}, {6, 9, 2}, {1, 7, 0}, {10, -1, 0}}) {
-        Player(player).Influence = influence;
-        Player(player).Resources = resources;
+        Player(player).Figures.Influence = influence;
+        Player(player).Figures.Resources = resources;
     }
     TurnOrder(*this);
     EXPECT_EQ(RankText(*this, 1), "before Player 5: equal influence, more resources");

@@ -52,7 +52,7 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](Game& game) { game.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
         {[](Game& game) { game.YellowModifier = game.RedModifier = 0; }, "Tech Modifiers"},
         {[](Game& game) { game.Planet(0).Owner = game.Planet(1).Owner = 5; }, "Load Game"},
-        {[](Game& game) { game.Started = true; }, "Load Game"},
+        {[](Game& game) { game.StartTime = 1; }, "Load Game"},
         {[](Game& game) { game.NumPlanets = 1; }, "Load Game"},
         {[](Game& game) {
              ChooseRace(game, 4, Race::Altheran);

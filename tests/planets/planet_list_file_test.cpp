@@ -86,7 +86,7 @@ TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
         Game game;
         TakePlanets(game, ReadPlanetList(most).Planets);
         EXPECT_EQ(game.NumPlanets, planet + 1);
-        EXPECT_EQ(game.Player(NeutralOwner).PlanetCount, planet + 1);
+        EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, planet + 1);
         EXPECT_EQ(game.Player(NeutralOwner).PlanetList, pool);
     }
     const PlanetListResult more = ReadPlanetList(most + "'c\rQ\rR");

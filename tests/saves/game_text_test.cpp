@@ -17,7 +17,8 @@ TEST(GameText, ReadsAndWritesGamesOfTheFirstVersion) {
     for (const char* word : {"idle", "add first", "add partner", "remove first", "remove partner",
                              "independence first", "independence second"}) {
         QByteArray bytes = QByteArray(saved).replace("add partner", word);
-        EXPECT_EQ(static_cast<int>(ReadGame(bytes).Game.value_or(GameState()).TradeMode), mode++);
+        EXPECT_EQ(static_cast<int>(ReadGame(bytes).Game.value_or(GameState()).Game.TradeMode),
+                  mode++);
         bytes.replace("\"TradeFirst\": 3", "\"TradeFirst\": 0");
         EXPECT_EQ(!ReadGame(bytes).Game, QByteArray(word).endsWith("partner")) << word;
     }
@@ -25,16 +26,16 @@ TEST(GameText, ReadsAndWritesGamesOfTheFirstVersion) {
 
 TEST(GameText, TheLargestGameComesBack) {
     GameState full = SampleGame();
-    full.NumPlanets = MaxPlanets;
-    full.Planets.fill({.Name = "P", .Resources = 255, .Influence = 255, .Owner = 3});
-    for (PlayerRecord& player : full.Players) {
+    full.Game.NumPlanets = MaxPlanets;
+    full.Game.Planets.fill({.Name = "P", .Resources = 255, .Influence = 255, .Owner = 3});
+    for (PlayerRecord& player : full.Game.Players) {
         player.PlanetList.fill(100);
     }
     const QByteArray saved = WriteGame(full);
     const ReadGameResult loaded = ReadGame(saved);
     ASSERT_TRUE(loaded.Game) << loaded.Problem.toStdString();
     EXPECT_EQ(WriteGame(*loaded.Game), saved);
-    full.Player(3).Name = "no text: half \xED\xA0\xBD of a pair, cut \xF0\x9F";
+    full.Game.Player(3).Name = "no text: half \xED\xA0\xBD of a pair, cut \xF0\x9F";
     EXPECT_TRUE(ReadGame(WriteGame(full)).Game);
 }
 
@@ -49,11 +50,11 @@ const std::array<const char*, 3> Damages[]{
     {"\"Version\": 1\n}", "\"Version\": 1\n", "or it is damaged"},
     {"line 1", "line \xFF", "or it is damaged"},
     // Members.
-    {"\"Started\": true", "\"Starter\": true", "Game.Started is missing"},
-    {"\"Started\": true", "\"Started\": true, \"Zeal\": 1", "Game.Zeal is unknown"},
+    {"\"StartTime\": ", "\"Start\": ", "Game.StartTime is missing"},
+    {"\"NumPlayers\": 4", "\"NumPlayers\": 4, \"Zeal\": 1", "Game.Zeal is unknown"},
     {"\"SpaceDocks\": 10", "\"SpaceDocks\": 10, \"Zeal\": 1", "Game.Players[2].Zeal is unknown"},
     // Types and ranges.
-    {"\"Started\": true", "\"Started\": 1", "Game.Started is neither true nor false"},
+    {"\"Named\": true", "\"Named\": 1", "Players[2].Named is neither true nor false"},
     {"\"NumPlayers\": 4", "\"NumPlayers\": 11", "NumPlayers is not a whole number from 2 to 10"},
     {"\"NumPlayers\": 4", "\"NumPlayers\": 3.5", "Game.NumPlayers is not"},
     {"\"red\"", "\"Red\"", "Game.Planets[1].Specialty is none of the words"},
@@ -89,7 +90,7 @@ const std::array<const char*, 3> Damages[]{
     {"\"Width\": 3", "\"Width\": 2", "TradeStrokes does not hold one line for each agreement"},
     {"\"BoardPlayer\": 3", "\"BoardPlayer\": 5", "BoardPlayer is no owner that the board can show"},
     {"\"BoardPosition\": 4", "\"BoardPosition\": 5", "BoardPosition lies behind the end"},
-    {"\"Started\": true", "\"Started\": false", "BoardPlayer is no owner"},
+    {"1795633200000", "0", "BoardPlayer is no owner"},
 };
 
 TEST(GameText, RefusesWhateverIsDamaged) {

@@ -16,10 +16,10 @@ TEST_F(KeptGames, AreWrittenWhenTheGameChanged) {
     game.View.BoardPlayer = AllPlanets;
     kept.Keep(game);
     EXPECT_TRUE(Files().empty()) << "nothing to keep of a game that only was looked at";
-    game.Laws.FreeTrade = !game.Laws.FreeTrade;
+    game.Game.Laws.FreeTrade = !game.Game.Laws.FreeTrade;
     kept.Keep(game);
     EXPECT_EQ(Files(), QStringList{KeptGameName});
-    EXPECT_EQ(LoadGameFile(KeptGameName).Game->Laws, game.Laws);
+    EXPECT_EQ(LoadGameFile(KeptGameName).Game->Game.Laws, game.Game.Laws);
     game.NotesText = "late";
     kept.Keep(game);
     EXPECT_EQ(NotesIn(KeptGameName), "late");
