@@ -8,9 +8,9 @@
 #include "economy/game_setup.h"
 #include "economy/laws.h"
 #include "economy/player_table.h"
+#include "economy/recompute.h"
 #include "economy/turn_order.h"
 #include "economy/turn_order_table.h"
-#include "economy/value_update.h"
 #include "planets/planet_board.h"
 #include "trade/trade_laws.h"
 #include "trade/trade_panel.h"
@@ -50,7 +50,7 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
       state(game), history(game.Game), kept(keeper) {
     setObjectName("Korvane");
     setWindowTitle(ProgramTitle);
-    menu = new MainMenu(this);
+    menu = new MainMenu(state.Game, this);
     setMenuBar(menu);
     client = new ClientArea(this);
     client->setFixedSize(ClientSize);
@@ -60,7 +60,6 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
     MakePanels();
     ConnectPanels();
     ConnectMenu();
-    ConnectTradeLaws();
     ConnectSteps();
     CentreOnScreen();
     ShowGame();
@@ -79,6 +78,11 @@ void Korvane::MakePanels() {
     board = new PlanetBoard(state, client);
     trade = new TradePanel(state.Game, client);
     setup->raise();
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        playerControls[player] = summary->PlayerControls(player) + board->PlayerControls(player) +
+                                 trade->PlayerControls(player) +
+                                 table->Column(player).PlayerControls();
+    }
     // The focus starts on no control, and a click on the background takes it away from one.
     client->setFocusPolicy(Qt::ClickFocus);
     client->setAccessibleName("Player table");
@@ -86,10 +90,6 @@ void Korvane::MakePanels() {
 }
 
 void Korvane::ConnectPanels() {
-    connect(table, &PlayerTable::InputChanged, this, &Korvane::UpdateValues);
-    connect(board, &PlanetBoard::InputChanged, this, &Korvane::UpdateValues);
-    connect(trade, &TradePanel::InputChanged, this, &Korvane::UpdateValues);
-    connect(setup, &SetupPanel::PlayerCountChanged, this, &Korvane::LayoutForPlayerCount);
     connect(table, &PlayerTable::Changed, this, &Korvane::Changed);
     connect(board, &PlanetBoard::Changed, this, &Korvane::Changed);
     connect(trade, &TradePanel::Changed, this, &Korvane::Changed);
@@ -109,92 +109,50 @@ void Korvane::ConnectMenu() {
     connect(menu->HTech, &QAction::triggered, this, &Korvane::HTech_Click);
     connect(menu->MenuTechMod, &QAction::triggered, this, &Korvane::MenuTechMod_Click);
     connect(menu->MenuLabour, &QAction::triggered, this, &Korvane::MenuLabour_Click);
+    connect(menu->Tres, &QAction::triggered, this, &Korvane::Tres_Click);
+    connect(menu->TFree, &QAction::triggered, this, &Korvane::TFree_Click);
+    connect(menu->TRestr, &QAction::triggered, this, &Korvane::TRestr_Click);
+    connect(menu->TStop, &QAction::triggered, this, &Korvane::TStop_Click);
     connect(menu->About, &QAction::triggered, this, &Korvane::About_Click);
 }
 
-void Korvane::ConnectTradeLaws() {
-    const auto connectLaw = [this](QAction* item, TradeOutcome (*click)(Game&)) {
-        connect(item, &QAction::triggered, this, [this, click] {
-            const TradeOutcome outcome = click(state.Game);
-            menu->ShowLaws(state.Game.Laws);
-            trade->Apply(outcome); // which announces the change
-        });
-    };
-    connectLaw(menu->Tres, Tres_Click);
-    connectLaw(menu->TFree, TFree_Click);
-    connectLaw(menu->TRestr, TRestr_Click);
-    connectLaw(menu->TStop, TStop_Click);
-}
-
 void Korvane::UpdateValues() {
-    ksm::UpdateValues(state.Game);
-    table->ShowValues();
-    trade->ShowValues();
-    TurnOrder();
+    Recompute(state.Game);
 }
 
 void Korvane::TurnOrder() {
     ksm::TurnOrder(state.Game);
-    summary->ShowTurnOrder();
 }
 
 void Korvane::LayoutForPlayerCount() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        if (player > state.Game.NumPlayers) {
-            HidePlayerControls(player);
-            continue;
-        }
-        board->PlaceOwner(player);
-        table->Column(player).Place();
-        trade->PlaceLabel(player);
-        ShowPlayerControls(player);
+        player > state.Game.NumPlayers ? HidePlayerControls(player) : ShowPlayerControls(player);
     }
 }
 
 void Korvane::ShowPlayerControls(int player) {
-    summary->SetRowVisible(player, true);
-    board->SetOwnerVisible(player, true);
-    trade->SetLabelVisible(player, true);
-    table->Column(player).SetVisible(true);
+    for (QWidget* control : playerControls[player]) {
+        control->show();
+    }
 }
 
 void Korvane::HidePlayerControls(int player) {
-    summary->SetRowVisible(player, false);
-    board->SetOwnerVisible(player, false);
-    trade->SetLabelVisible(player, false);
-    table->Column(player).SetVisible(false);
-}
-
-void Korvane::ShowPlayer(int player) {
-    table->Column(player).ShowPlayer();
-    board->ShowPlayer(player);
-    trade->ShowPlayer(player);
-}
-
-void Korvane::ShowPhase() {
-    setup->setVisible(!state.Game.Started());
-    table->ShowPhase();
-    // The setup panel covers them; the focus must not get below it.
-    summary->setEnabled(state.Game.Started());
-    board->setEnabled(state.Game.Started());
+    for (QWidget* control : playerControls[player]) {
+        control->hide();
+    }
 }
 
 void Korvane::ShowGame() {
     const QWidget* focused = focusWidget();
+    menu->ShowGame();
     setup->ShowGame();
+    table->ShowGame();
+    summary->ShowGame();
     board->ShowGame();
+    trade->ShowGame();
+    // Each stands in its place by now.
     LayoutForPlayerCount();
-    ShowPhase();
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        ShowPlayer(player);
-    }
-    table->ShowValues();
-    trade->ShowValues();
-    trade->ShowInfo();
-    trade->ShowDiagram();
-    summary->ShowTurnOrder();
-    menu->ShowLaws(state.Game.Laws);
-    if (auto* notes = findChild<NoteForm*>()) {
+    if (auto* notes = findChild<NoteForm*>(QString(), Qt::FindDirectChildrenOnly)) {
         notes->ShowNotes();
     }
     if (focusWidget() != focused) {
@@ -203,16 +161,8 @@ void Korvane::ShowGame() {
     }
 }
 
-void Korvane::TakeGame(const GameState& loaded) {
-    state = loaded;
-    ShowGame();
-    emit Changed();
-}
-
 void Korvane::StartGameButton_Click() {
     StartGame(state.Game, QDateTime::currentMSecsSinceEpoch());
-    client->setFocus(); // the button goes
-    ShowPhase();
     UpdateValues();
     TurnOrder();
     history.Restart(state.Game);
@@ -220,17 +170,38 @@ void Korvane::StartGameButton_Click() {
 }
 
 void Korvane::MenuOrlen_Click() {
-    ksm::MenuOrlen_Click(state.Game);
-    menu->ShowLaws(state.Game.Laws);
+    ToggleOrlenHouseRules(state.Game);
     TurnOrder();
     emit Changed();
 }
 
 void Korvane::MenuLabour_Click() {
-    ksm::MenuLabour_Click(state.Game);
-    menu->ShowLaws(state.Game.Laws);
+    ToggleLabourUnion(state.Game);
     UpdateValues();
     TurnOrder();
+    emit Changed();
+}
+
+void Korvane::Tres_Click() {
+    ToggleEconomicIndependence(state.Game);
+    emit Changed();
+}
+
+void Korvane::TFree_Click() {
+    ToggleFreeTrade(state.Game);
+    UpdateValues();
+    emit Changed();
+}
+
+void Korvane::TRestr_Click() {
+    ToggleTradeRestrictions(state.Game);
+    UpdateValues();
+    emit Changed();
+}
+
+void Korvane::TStop_Click() {
+    StopTrade(state.Game);
+    UpdateValues();
     emit Changed();
 }
 

@@ -93,10 +93,10 @@ void Korvane::MenuTechMod_Click() {
 
 void Korvane::SetModifier(int colour, int modifier) {
     // In the order of the window's columns.
-    constexpr std::array setters{&Korvane::SetGreenModifier, &Korvane::SetBlueModifier,
-                                 &Korvane::SetRedModifier, &Korvane::SetYellowModifier};
-    const auto set = setters.at(static_cast<std::size_t>(colour));
-    (this->*set)(static_cast<std::int16_t>(modifier));
+    constexpr std::array modifiers{&Game::GreenModifier, &Game::BlueModifier, &Game::RedModifier,
+                                   &Game::YellowModifier};
+    state.Game.*modifiers.at(static_cast<std::size_t>(colour)) =
+        static_cast<std::int16_t>(modifier);
     UpdateValues();
     emit Changed();
 }
@@ -105,12 +105,11 @@ void Korvane::PlayerName_Click(int player) {
     state.View.EditedPlayer = player;
     auto* form = new ColorSelectForm(state, this);
     MakeOneStepOf(form);
-    connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
     connect(form, &ColorSelectForm::Confirmed, this, &Korvane::NameConfirmed);
     form->Form_Load();
     // What loading changed belongs to the click.
     connect(form, &ColorSelectForm::Changed, this, &Korvane::Changed);
-    form->move(pos() + table->Column(player).NamePlace() + QPoint(0, FromTwips(1000)));
+    form->move(pos() + table->Column(player).Name()->pos() + QPoint(0, FromTwips(1000)));
     form->show();
     emit Changed();
 }

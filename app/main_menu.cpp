@@ -34,7 +34,7 @@ void MakeSeparator(QMenu* menu, const char* name) {
 
 } // namespace
 
-MainMenu::MainMenu(QWidget* parent) : QMenuBar(parent) {
+MainMenu::MainMenu(const Game& shown, QWidget* parent) : QMenuBar(parent), game(shown) {
     MakeFileMenu();
     MakeOptionsMenu();
     Notes = MakeBarItem("Notes", "&Notes");
@@ -121,7 +121,8 @@ void MainMenu::WorkIn(QWidget* other) {
     }
 }
 
-void MainMenu::ShowLaws(const LawMarks& laws) {
+void MainMenu::ShowGame() {
+    const LawMarks& laws = game.Laws;
     MenuLabour->setChecked(laws.LabourUnion);
     MenuOrlen->setChecked(laws.OrlenHouseRules);
     Tres->setChecked(laws.EconomicIndependence);

@@ -13,10 +13,10 @@ class MainMenu : public QMenuBar {
     Q_OBJECT
 
 public:
-    explicit MainMenu(QWidget* parent);
+    MainMenu(const Game& shown, QWidget* parent);
 
     /// Shows the check marks of the laws and house rules.
-    void ShowLaws(const LawMarks& laws);
+    void ShowGame();
     /// Lets the keys of the menus, such as Alt+L, work in another window.
     void WorkIn(QWidget* other);
 
@@ -46,6 +46,8 @@ private:
     void OpenBy(QAction* item);
     QMenu* MakeMenu(const char* name, const char* caption);
     QAction* MakeBarItem(const char* name, const char* caption);
+
+    const Game& game;
 };
 
 } // namespace ksm

@@ -23,7 +23,7 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textChanged, this, &ChoiceBox::FitText);
     connect(this, &QComboBox::activated, this, &ChoiceBox::Chosen);
-    ShowChoice(-1);
+    RestoreChoice(-1);
 }
 
 void ChoiceBox::TakeLineEdit() {
@@ -36,6 +36,12 @@ void ChoiceBox::TakeLineEdit() {
 }
 
 void ChoiceBox::ShowChoice(int index) {
+    if (index != currentIndex()) {
+        RestoreChoice(index);
+    }
+}
+
+void ChoiceBox::RestoreChoice(int index) {
     setCurrentIndex(index);
     setEditText(index >= 0 ? itemText(index) : emptyCaption);
     lineEdit()->setCursorPosition(0);
@@ -76,7 +82,7 @@ bool ChoiceBox::event(QEvent* event) {
 void ChoiceBox::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
-        ShowChoice(currentIndex());
+        RestoreChoice(currentIndex());
     }
 }
 

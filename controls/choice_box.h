@@ -34,6 +34,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    /// Shows the choice in place of what was typed.
+    void RestoreChoice(int index);
     void TakeLineEdit();
     /// Gives the text of a narrow box the room up to the arrow.
     void PlaceText();

@@ -2,11 +2,11 @@
 
 namespace ksm {
 
-void MenuLabour_Click(Game& game) {
+void ToggleLabourUnion(Game& game) {
     game.Laws.LabourUnion = !game.Laws.LabourUnion;
 }
 
-void MenuOrlen_Click(Game& game) {
+void ToggleOrlenHouseRules(Game& game) {
     game.Laws.OrlenHouseRules = !game.Laws.OrlenHouseRules;
 }
 

@@ -5,9 +5,9 @@
 
 namespace ksm {
 
-/// Switches Labour Union on or off; the figures follow with the next UpdateValues.
-void MenuLabour_Click(Game& game);
-/// Switches the house rule on or off; the order of play follows with the next TurnOrder.
-void MenuOrlen_Click(Game& game);
+/// The figures follow with the next UpdateValues.
+void ToggleLabourUnion(Game& game);
+/// The order of play follows with the next TurnOrder.
+void ToggleOrlenHouseRules(Game& game);
 
 } // namespace ksm

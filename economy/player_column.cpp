@@ -9,6 +9,7 @@
 #include "controls/spin_bar.h"
 #include "economy/column_place.h"
 #include "economy/game_setup.h"
+#include "economy/recompute.h"
 #include "economy/tech_boxes.h"
 #include "model/player_labels.h"
 
@@ -139,7 +140,18 @@ void PlayerColumn::MakeTechnologies() {
     connect(Micro, &QCheckBox::toggled, this, &PlayerColumn::Micro_Click);
 }
 
-void PlayerColumn::Place() {
+void PlayerColumn::ShowGame() {
+    const bool inGame = player <= game.NumPlayers;
+    // It lies over the race label until the game starts.
+    Race->setVisible(inGame && !game.Started());
+    if (inGame) {
+        ShowPlace();
+        ShowPlayer();
+        ShowValues();
+    }
+}
+
+void PlayerColumn::ShowPlace() {
     const ColumnPlace place = PlaceOfColumn(player, game.NumPlayers);
     PlayerName->setGeometry(place.Left, PlayerName->y(), place.NameWidth, PlayerName->height());
     RaceLabel->setGeometry(place.Left, RaceLabel->y(), place.NameWidth, RaceLabel->height());
@@ -151,21 +163,6 @@ void PlayerColumn::Place() {
     MoveTo(place.FigureLeft + 3, {SpaceDocks});
     MoveTo(place.FigureLeft + 19, {DockScroll});
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});
-}
-
-void PlayerColumn::SetVisible(bool visible) {
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             PlayerName, StatLine, RaceLabel, SpaceDocks, DockScroll, Enviro, PellamTools, Micro}) {
-        control->setVisible(visible);
-    }
-    for (CaptionLabel* figure : Figures) {
-        figure->setVisible(visible);
-    }
-    ShowPhase();
-}
-
-void PlayerColumn::ShowPhase() {
-    Race->setVisible(!game.Started() && player <= game.NumPlayers);
 }
 
 void PlayerColumn::ShowPlayer() {
@@ -182,10 +179,6 @@ void PlayerColumn::ShowValues() {
     }
     SpaceDocks->SetCaption(QString::number(Record().SpaceDocks));
     DockScroll->setValue(MaxSpaceDocks - Record().SpaceDocks);
-    ShowTechBoxes();
-}
-
-void PlayerColumn::ShowTechBoxes() {
     Enviro->setChecked(Record().Enviro);
     PellamTools->setChecked(Record().PellamTools);
     PellamTools->setEnabled(Record().PellamToolsEnabled);
@@ -201,14 +194,16 @@ QWidget* PlayerColumn::Docks() const {
     return DockScroll;
 }
 
-QPoint PlayerColumn::NamePlace() const {
-    return PlayerName->pos();
+QWidgetList PlayerColumn::PlayerControls() const {
+    QWidgetList controls{PlayerName, StatLine, RaceLabel,   SpaceDocks,
+                         DockScroll, Enviro,   PellamTools, Micro};
+    controls.append({Figures.begin(), Figures.end()});
+    return controls;
 }
 
 void PlayerColumn::Race_Click(int index) {
     ChooseRace(game, player, static_cast<ksm::Race>(index));
-    ShowPlayer();
-    emit InputChanged();
+    Recompute(game);
     emit Changed();
 }
 
@@ -224,16 +219,15 @@ void PlayerColumn::DockScroll_Change(int value) {
 }
 
 void PlayerColumn::SpaceDocks_Change() {
-    emit InputChanged();
+    Recompute(game);
     emit Changed();
 }
 
 void PlayerColumn::Enviro_Click(bool checked) {
     if (checked != Record().Enviro) {
         Record().Enviro = checked;
-        emit InputChanged();
+        Recompute(game);
         UpdateTechBoxes(Record());
-        ShowTechBoxes();
         emit Changed();
     }
 }
@@ -241,7 +235,7 @@ void PlayerColumn::Enviro_Click(bool checked) {
 void PlayerColumn::PellamTools_Click(bool checked) {
     if (checked != Record().PellamTools) {
         Record().PellamTools = checked;
-        emit InputChanged();
+        Recompute(game);
         emit Changed();
     }
 }
@@ -249,7 +243,7 @@ void PlayerColumn::PellamTools_Click(bool checked) {
 void PlayerColumn::Micro_Click(bool checked) {
     if (checked != Record().Micro) {
         Record().Micro = checked;
-        emit InputChanged();
+        Recompute(game);
         emit Changed();
     }
 }

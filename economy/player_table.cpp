@@ -46,7 +46,6 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
     QList<QWidget*> docks;
     for (int player = 1; player <= MaxPlayers; ++player) {
         auto* column = new PlayerColumn(game, player, races, window);
-        connect(column, &PlayerColumn::InputChanged, this, &PlayerTable::InputChanged);
         connect(column, &PlayerColumn::Changed, this, &PlayerTable::Changed);
         connect(column, &PlayerColumn::NameClicked, this, &PlayerTable::NameClicked);
         columns[player] = column;
@@ -58,15 +57,9 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
     new FocusGroup(docks, FocusGroup::Keys::LeftAndRight, this);
 }
 
-void PlayerTable::ShowPhase() {
+void PlayerTable::ShowGame() {
     for (PlayerColumn* column : columns) {
-        column->ShowPhase();
-    }
-}
-
-void PlayerTable::ShowValues() {
-    for (PlayerColumn* column : columns) {
-        column->ShowValues();
+        column->ShowGame();
     }
 }
 

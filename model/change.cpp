@@ -35,22 +35,27 @@ public:
     Comparison(const Game& earlier, const Game& later) : before(earlier), after(later) {}
 
     std::string Describe() const {
-        const Descriptions found = Races();
-        Descriptions others = Setup();
-        for (const Descriptions& topic : {Names(), Docks(), Marks(), Trade(), Modifiers()}) {
-            others.insert(others.end(), topic.begin(), topic.end());
-        }
+        const Descriptions races = Races();
+        const Descriptions others =
+            Join({Setup(), Names(), Docks(), Marks(), Trade(), Modifiers()});
         // A race brings planets and Enviro Comp. with it.
-        if (found.size() == 1 && others.empty()) {
-            return found.front();
+        const bool isRace = races.size() == 1 && others.empty();
+        const Descriptions all = isRace ? races : Join({races, others, Boxes(), Owners()});
+        if (all.size() < 2) {
+            return all.empty() ? "change" : all.front();
         }
-        for (const Descriptions& topic : {found, Boxes(), Owners()}) {
-            others.insert(others.end(), topic.begin(), topic.end());
-        }
-        return others.size() == 1 ? others.front() : "Load Game";
+        return all.front() + " and " + std::to_string(all.size() - 1) + " more";
     }
 
 private:
+    static Descriptions Join(std::initializer_list<Descriptions> topics) {
+        Descriptions all;
+        for (const Descriptions& topic : topics) {
+            all.insert(all.end(), topic.begin(), topic.end());
+        }
+        return all;
+    }
+
     /// One description for each player for whom `differ` finds a difference.
     template<typename Differ>
     Descriptions ForPlayers(const Differ& differ) const {
@@ -65,14 +70,9 @@ private:
     }
 
     Descriptions Setup() const {
-        Descriptions found;
-        if (before.NumPlayers != after.NumPlayers) {
-            found.push_back(std::to_string(after.NumPlayers) + " players");
-        }
-        if (before.Started() != after.Started() || before.NumPlanets != after.NumPlanets) {
-            found.insert(found.end(), 2, "Load Game");
-        }
-        return found;
+        return before.NumPlayers == after.NumPlayers
+                   ? Descriptions()
+                   : Descriptions{std::to_string(after.NumPlayers) + " players"};
     }
 
     Descriptions Races() const {
@@ -141,7 +141,9 @@ private:
         }
         const Descriptions agreements = Agreements();
         if (!agreements.empty()) {
-            return agreements.size() == 1 ? agreements : Descriptions{"Trade Stop"};
+            // Only its message tells it from the end of the last agreement.
+            return after.TradeInfo.ends_with("TRADE STOP!") ? Descriptions{"Trade Stop"}
+                                                            : agreements;
         }
         if (before.TradeMode != after.TradeMode) {
             return {SelectionName(after.TradeMode == TradeMode::Idle ? before.TradeMode
@@ -169,7 +171,9 @@ private:
         for (int maker = 1; maker <= MaxPlayers; ++maker) {
             for (int partner = 1; partner <= MaxPlayers; ++partner) {
                 if (before.Cell(maker, partner) != after.Cell(maker, partner)) {
-                    found.push_back("agreement of " + SpokenName(after, maker) + " and " +
+                    const bool begins = after.Cell(maker, partner) != NoAgreement;
+                    found.push_back((begins ? "agreement of " : "end of the agreement of ") +
+                                    SpokenName(after, maker) + " and " +
                                     SpokenName(after, partner));
                 }
             }

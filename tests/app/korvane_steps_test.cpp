@@ -25,7 +25,7 @@ struct Steps : GameWindow {
         QApplication::sendEvent(window.centralWidget(), &click);
         auto* menu = Find<QMenu>("Steps");
         QStringList texts;
-        for (const QAction* item : menu->actions()) {
+        for (const QAction* item : menu->actions().first(2)) {
             const QString text = item->text().section('\t', 0, 0);
             texts << (item->isEnabled() ? text : '[' + text + ']');
         }

@@ -1,6 +1,7 @@
 #include "economy/value_update.h"
 #include "trade/trade_agreements.h"
 #include "trade/trade_laws.h"
+#include "trade/trade_selection.h"
 #include "trade/trade_text.h"
 
 #include <gtest/gtest.h>
@@ -21,14 +22,14 @@ enum Click : int { Tres = 0, TStop = -1, TFree = -2, TRestr = -3, Add = -4, Remo
 
 /// A click on a button, a law or the label of a player.
 void Do(Game& game, int click) {
-    constexpr std::array laws{Tres_Click, TStop_Click, TFree_Click, TRestr_Click};
-    if (click == Add) {
-        AddTAbutton_Click(game);
-    } else if (click == Remove) {
-        RemoveTAButton_Click(game);
+    constexpr std::array clicks{ToggleEconomicIndependence, StopTrade,   ToggleFreeTrade,
+                                ToggleTradeRestrictions,    BeginAdding, BeginRemoving};
+    if (click > 0) {
+        const TradeTable before = game.TradeAgreements;
+        const bool figuresFollow = PickPlayer(game, click);
+        EXPECT_EQ(figuresFollow, game.TradeAgreements != before);
     } else {
-        click > 0 ? TradePlayer_Click(game, click)
-                  : laws.at(static_cast<std::size_t>(-click))(game);
+        clicks.at(static_cast<std::size_t>(-click))(game);
     }
     UpdateValues(game);
 }
