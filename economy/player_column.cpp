@@ -12,6 +12,7 @@
 #include "economy/recompute.h"
 #include "economy/tech_boxes.h"
 #include "model/player_labels.h"
+#include "model/technology.h"
 
 #include <QCheckBox>
 
@@ -76,11 +77,12 @@ CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, con
     return label;
 }
 
-QCheckBox* PlayerColumn::MakeBox(const char* name, const char* heading, int top) {
+QCheckBox* PlayerColumn::MakeBox(const char* name, const Technology& technology, int top) {
     auto* box = new QCheckBox(window);
     box->setObjectName(ElementName(name, player));
     box->setGeometry(0, top, 17, 17);
-    box->setAccessibleName(Heading(heading));
+    box->setAccessibleName(Heading(technology.Caption));
+    box->setToolTip(technology.Tip);
     return box;
 }
 
@@ -131,9 +133,9 @@ void PlayerColumn::MakeDocks() {
 }
 
 void PlayerColumn::MakeTechnologies() {
-    Enviro = MakeBox("Enviro", "Enviro Comp.", 322);
-    PellamTools = MakeBox("PellamTools", "Pellam Tools", 336);
-    Micro = MakeBox("Micro", "Micro Tech.", 350);
+    Enviro = MakeBox("Enviro", EnviroComp, 322);
+    PellamTools = MakeBox("PellamTools", ksm::PellamTools, 336);
+    Micro = MakeBox("Micro", MicroTech, 350);
     new FocusGroup({Enviro, PellamTools, Micro}, FocusGroup::Keys::Arrows, this);
     connect(Enviro, &QCheckBox::toggled, this, &PlayerColumn::Enviro_Click);
     connect(PellamTools, &QCheckBox::toggled, this, &PlayerColumn::PellamTools_Click);

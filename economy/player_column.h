@@ -17,6 +17,7 @@ class CaptionLabel;
 class ChoiceBox;
 class LineControl;
 class SpinBar;
+struct Technology;
 
 class PlayerColumn : public QObject {
     Q_OBJECT
@@ -44,7 +45,7 @@ private:
     void MakeDocks();
     void MakeTechnologies();
     CaptionLabel* MakeLabel(const char* name, const char* heading, const QRect& place);
-    QCheckBox* MakeBox(const char* name, const char* heading, int top);
+    QCheckBox* MakeBox(const char* name, const Technology& technology, int top);
     QString Heading(const char* row) const;
 
     void Race_Click(int index);

@@ -2,6 +2,7 @@
 
 #include "controls/caption_label.h"
 #include "controls/focus_group.h"
+#include "model/technology.h"
 
 namespace ksm {
 
@@ -10,6 +11,7 @@ namespace {
 struct RowHeading {
     const char* Caption = "";
     QRect Place;
+    const char* Tip = "";
 };
 
 constexpr std::array<RowHeading, 10> RowHeadings{{
@@ -18,9 +20,9 @@ constexpr std::array<RowHeading, 10> RowHeadings{{
     {"Planets", {0, 264, 57, 17}},
     {"Receive Credits", {0, 280, 81, 17}},
     {"Space Docks", {0, 301, 73, 17}},
-    {"Enviro Comp.", {0, 322, 81, 13}},
-    {"Pellam Tools", {0, 336, 71, 13}},
-    {"Micro Tech.", {0, 350, 57, 13}},
+    {EnviroComp.Caption, {0, 322, 81, 13}, EnviroComp.Tip},
+    {PellamTools.Caption, {0, 336, 71, 13}, PellamTools.Tip},
+    {MicroTech.Caption, {0, 350, 57, 13}, MicroTech.Tip},
     {"Technology", {0, 392, 65, 18}},
     {"Costs", {0, 408, 65, 18}},
 }};
@@ -40,6 +42,7 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
         auto* label = new CaptionLabel(QString(), heading.Place, window);
         label->SetAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->SetCaption(heading.Caption);
+        label->SetExplanation([&heading] { return std::string(heading.Tip); });
     }
     const QStringList races = RaceNames();
     QList<QWidget*> names;

@@ -1,6 +1,7 @@
 #include "model/change.h"
 
 #include "model/player_labels.h"
+#include "model/technology.h"
 
 #include <algorithm>
 #include <vector>
@@ -10,15 +11,6 @@ namespace ksm {
 namespace {
 
 using Descriptions = std::vector<std::string>;
-
-/// A technology of a player, by the caption of its row.
-struct Technology {
-    const char* Caption;
-    bool PlayerRecord::*Owned;
-};
-constexpr std::array<Technology, 3> Technologies{{{"Enviro Comp.", &PlayerRecord::Enviro},
-                                                  {"Pellam Tools", &PlayerRecord::PellamTools},
-                                                  {"Micro Tech.", &PlayerRecord::Micro}}};
 
 struct Law {
     const char* Caption;
