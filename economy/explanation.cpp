@@ -56,10 +56,10 @@ std::vector<const PlanetRecord*> PlanetsOf(const Game& game, int player) {
 }
 
 // A screen has no room for a line for each of a hundred planets.
-Parts Shorten(Parts planets) {
+Parts Shorten(Parts planets, const char* words = "from planets") {
     constexpr std::size_t MostLines = 12;
     if (planets.size() > MostLines) {
-        planets = {{Sum(planets), "of " + Count(static_cast<int>(planets.size()), "planet")}};
+        planets = {{Sum(planets), words}};
     }
     return planets;
 }
@@ -100,7 +100,7 @@ Parts CountParts(const Game& game, int player) {
     for (const PlanetRecord* planet : PlanetsOf(game, player)) {
         parts.push_back({1, planet->Name});
     }
-    return parts;
+    return Shorten(parts, "planets (a click on the owner lists them)");
 }
 
 Part PartnerPart(const Game& game, int player, int partner) {
@@ -159,7 +159,9 @@ Parts DiscountParts(const Game& game, int player, Specialty cheaper) {
     for (const PlanetRecord* planet : PlanetsOf(game, player)) {
         if (planet->Specialty == cheaper) {
             ++planets;
-            parts.push_back({-planet->Resources, planet->Name});
+            if (planet->Resources != 0) {
+                parts.push_back({-planet->Resources, planet->Name});
+            }
         }
     }
     parts = Shorten(parts);
@@ -172,36 +174,22 @@ Parts DiscountParts(const Game& game, int player, Specialty cheaper) {
 Parts CostParts(const Game& game, int player, const CostDesign& cost) {
     const PlayerRecord& record = game.Player(player);
     const int base = record.*cost.Base;
-    const std::string race(record.Race == Race::None ? "everybody" : TraitsOf(record.Race).Caption);
-    Parts parts{{base, "base cost of " + race}};
+    Parts parts{{base, "base cost"}};
+    if (record.Race != Race::None) {
+        parts.front().Words += " of ";
+        parts.front().Words += TraitsOf(record.Race).Caption;
+    }
     if (cost.Cheaper != Specialty::None) {
         const Parts discounts = DiscountParts(game, player, cost.Cheaper);
         parts.insert(parts.end(), discounts.begin(), discounts.end());
         if (const int below = Sum(parts); below < 0) {
-            parts.push_back({-below, "the discount is cut at the base cost"});
+            parts.push_back({-below, "(the discount is limited to the base cost)"});
         }
     }
     if (const int modifier = game.*cost.Modifier - NeutralModifier) {
         parts.push_back({modifier, "Tech Modifiers"});
     }
     return parts;
-}
-
-Explanation ExplainAnew(const Game& game, int player, Figure figure) {
-    const bool exchanged = game.Laws.LabourUnion;
-    const std::string law = exchanged ? "Labour Union: influence and resources change places" : "";
-    switch (figure) {
-    case Figure::Resources:
-        return {exchanged ? InfluenceParts(game, player) : ResourceParts(game, player), law};
-    case Figure::Influence:
-        return {exchanged ? ResourceParts(game, player) : InfluenceParts(game, player), law};
-    case Figure::Planets:
-        return {CountParts(game, player), ""};
-    case Figure::Credits:
-        return {CreditParts(game, player), law};
-    default:
-        return {CostParts(game, player, CostOf(figure)), ""};
-    }
 }
 
 /// "before Bert: equal influence, more resources".
@@ -223,20 +211,31 @@ int ValueOf(const Game& game, int player, Figure figure) {
 }
 
 Explanation Explain(const Game& game, int player, Figure figure) {
-    Explanation explanation = ExplainAnew(game, player, figure);
-    // Setup can change the number of players without computing the figures again.
-    const int difference = ValueOf(game, player, figure) - Sum(explanation.Parts);
-    if (difference != 0) {
-        explanation.Parts.push_back({difference, "for the number of players before"});
+    const bool swapped = game.Laws.LabourUnion;
+    const std::string law = swapped ? "Labour Union: influence and resources are swapped" : "";
+    switch (figure) {
+    case Figure::Resources:
+        return {swapped ? InfluenceParts(game, player) : ResourceParts(game, player), law};
+    case Figure::Influence:
+        return {swapped ? ResourceParts(game, player) : InfluenceParts(game, player), law};
+    case Figure::Planets:
+        return {CountParts(game, player), ""};
+    case Figure::Credits:
+        return {CreditParts(game, player), law};
+    default:
+        return {CostParts(game, player, CostOf(figure)), ""};
     }
-    return explanation;
 }
 
 std::string ExplanationText(const Game& game, int player, Figure figure) {
     const Explanation explanation = Explain(game, player, figure);
+    const int value = ValueOf(game, player, figure);
     std::string text = DesignOf(figure).Caption;
-    text += ' ';
-    text += std::to_string(ValueOf(game, player, figure));
+    text += ' ' + std::to_string(value);
+    // Setup can change the number of players without computing the figures again.
+    if (Sum(explanation.Parts) != value) {
+        return text + ", computed for another number of players";
+    }
     std::string sign = " = ";
     for (const Part& part : explanation.Parts) {
         text += part.Amount < 0 && sign != " = " ? "\n- " : sign;
@@ -252,10 +251,10 @@ std::string ExplanationText(const Game& game, int player, Figure figure) {
 
 std::string DockText(const Game& game, int player) {
     const PlayerRecord& record = game.Player(player);
-    const std::string docks = "Space Docks " + std::to_string(record.SpaceDocks);
-    return docks + (record.Enviro
-                        ? ": " + std::to_string(record.SpaceDocks) + " influence by Enviro Comp."
-                        : ": they bring influence with Enviro Comp.");
+    return "Space Docks " + std::to_string(record.SpaceDocks) +
+           (record.Enviro ? " count as " : " would count as ") +
+           (game.Laws.LabourUnion ? "resources (Labour Union)" : "influence") +
+           (record.Enviro ? "" : " with Enviro Comp.");
 }
 
 std::string RankText(const Game& game, int place) {
