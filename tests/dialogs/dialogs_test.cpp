@@ -4,7 +4,9 @@
 #include "model/game_state.h"
 #include "tests/window_test.h"
 
+#include <QClipboard>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 
 namespace ksm {
@@ -38,6 +40,16 @@ TEST_F(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
         box.insertPlainText(QString::fromUtf8("\né€\t😀"));
         EXPECT_EQ(game.NotesText, "tax\né€\t😀");
     }
+}
+
+TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
+    GameState game;
+    game.NotesText = "tax";
+    const NoteForm form(game, &owner);
+    // As an empty clipboard under X11 does: data without a format.
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    form.findChild<QPlainTextEdit*>("Aant")->paste();
+    EXPECT_EQ(game.NotesText, "tax");
 }
 
 TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {
