@@ -6,7 +6,9 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -41,6 +43,23 @@ TEST(CaptionLabel, ClicksWhenItIsClickableAndTheLeftButtonIsReleasedOnIt) {
     EXPECT_EQ(clicks.count(), 0);
     QTest::mouseClick(&label, Qt::LeftButton);
     EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST(FramedBar, LeavesARightClickToItsWindow) {
+    QWidget window;
+    window.setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy menus(&window, &QWidget::customContextMenuRequested);
+    FramedBar bar("Bar", QRect(0, 0, 17, 90), &window);
+    window.show();
+    // Qt's own menu would wait for a choice.
+    QTimer::singleShot(0, &bar, [] {
+        if (QWidget* menu = QApplication::activePopupWidget()) {
+            menu->close();
+        }
+    });
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5), bar.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&bar, &click);
+    EXPECT_EQ(menus.count(), 1);
 }
 
 struct SpinBars : testing::Test {
