@@ -1,4 +1,5 @@
 #include "dialogs/about_form.h"
+#include "dialogs/color_select_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/tech_form.h"
 #include "model/game_state.h"
@@ -40,6 +41,20 @@ TEST_F(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
         box.insertPlainText(QString::fromUtf8("\né€\t😀"));
         EXPECT_EQ(game.NotesText, "tax\né€\t😀");
     }
+}
+
+TEST_F(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
+    GameState game;
+    game.View.EditedPlayer = 3;
+    ColorSelectForm form(game, &owner);
+    for (const char* name : {"NameEntry", "ShortNameEntry"}) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8("a\tb\nc\u2028d\u00A0e\u200D"));
+        auto& box = *form.findChild<QLineEdit*>(name);
+        box.clear();
+        box.paste();
+    }
+    EXPECT_EQ(game.Player(3).Name, "a b c d\u00A0e\u200D");
+    EXPECT_EQ(game.Player(3).ShortName, "a b c d\u00A0e\u200D");
 }
 
 TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
