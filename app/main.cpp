@@ -9,7 +9,6 @@
 #include "controls/input_guard.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
-#include "controls/program_icon.h"
 #include "planets/planet_list_file.h"
 #include "saves/kept_game.h"
 
@@ -51,7 +50,7 @@ int main(int argc, char* argv[]) {
     if (ksm::IsWayland()) {
         application.installEventFilter(&sizeGuard);
     }
-    QApplication::setWindowIcon(ksm::ProgramIcon());
+    QApplication::setWindowIcon(QIcon(":/ksm.svg"));
 
     const ksm::SingleInstance instance;
     if (instance.OtherIsRunning()) {

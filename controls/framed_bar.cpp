@@ -9,6 +9,7 @@ FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* par
     setObjectName(objectName);
     setGeometry(place);
     setFocusPolicy(Qt::TabFocus);
+    setContextMenuPolicy(Qt::NoContextMenu); // a right click opens the window's menu, not Qt's
     // Both steps of one, so that the wheel too goes step by step.
     setSingleStep(1);
     setPageStep(1);

@@ -2,7 +2,6 @@
 
 #include "controls/caption_label.h"
 #include "controls/look.h"
-#include "controls/program_icon.h"
 #include "controls/shape_frame.h"
 
 #include <QLineEdit>
@@ -89,7 +88,6 @@ void Restore(QLineEdit* box, const char* address) {
 
 AboutForm::AboutForm(QWidget* owner)
     : FixedDialog("AboutForm", "About Korvane Astrell Manager", {ClientWidth, 305}, owner) {
-    setWindowIcon(ProgramIcon());
     new ShapeFrame("Shape1", QRect(8, 8, ClientWidth - 16, 104), 6, this);
     new ShapeFrame("Shape2", QRect(8, 182, ClientWidth - 16, 56), 6, this);
     MakeLine("Label1", 18, "Korvane Astrell (2nd E.) Manager Version 2.0", this)

@@ -9,7 +9,9 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextBoundaryFinder>
+#include <QValidator>
 
 #include <limits>
 
@@ -39,6 +41,18 @@ constexpr std::array<SwatchDesign, 12> Swatches{{
     {600, 1080, "Green", {colour::Green, colour::Black}},
     {960, 1080, "Navy", {colour::Navy, colour::White}},
 }};
+
+/// Makes a blank of whatever would break the one line of a name, such as a tab that was pasted.
+class OneLine : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int&) const override {
+        static const QRegularExpression breaks("[\\p{Cc}\\p{Zl}\\p{Zp}]");
+        text.replace(breaks, " ");
+        return Acceptable;
+    }
+};
 
 // A letter with its accents, or an emoji of several parts, is one character.
 QString FirstCharacters(const QString& text, int count) {
@@ -82,6 +96,7 @@ QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, con
     entry->setAccessibleName(meaning);
     entry->setGeometry(place);
     entry->setMaxLength(std::numeric_limits<int>::max());
+    entry->setValidator(new OneLine(entry));
     return entry;
 }
 

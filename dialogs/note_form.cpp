@@ -39,6 +39,9 @@ public:
 
 protected:
     void insertFromMimeData(const QMimeData* source) override {
+        if (!source->hasText()) {
+            return; // Qt 6.4 crashes where there is no format at all, as in an empty clipboard
+        }
         PrepareFor(source->text());
         QPlainTextEdit::insertFromMimeData(source);
     }

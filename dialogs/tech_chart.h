@@ -23,14 +23,14 @@ inline constexpr int StrokeSize = 7;
 /// Centre of the diamond that explains the diamonds.
 inline constexpr Point LegendSample{38, 459};
 
-/// The four kinds of technology, each with its own cost.
-enum class TechField : std::uint8_t { Yellow, Green, Blue, Red };
+/// The four kinds of technology, each with its own cost; in the order of their columns.
+enum class TechField : std::uint8_t { Green, Yellow, Blue, Red };
 
 enum class TechRule : std::uint8_t { AnyOf, AllOf };
 
 struct Technology {
     std::string_view Name;
-    TechField Field = TechField::Yellow;
+    TechField Field = TechField::Green;
     Point Place; ///< top left corner of the box
     TechRule Rule = TechRule::AnyOf;
     std::vector<int> Sources{}; ///< indices of what leads here; none: free from the start

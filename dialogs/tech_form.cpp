@@ -39,7 +39,7 @@ QString Requirement(const Technology& technology, const TechChart& chart) {
 }
 
 QString AccessibleName(const Technology& technology, const TechChart& chart) {
-    constexpr std::array fields{"yellow", "green", "blue", "red"};
+    constexpr std::array fields{"green", "yellow", "blue", "red"};
     return QString("%1, %2, %3")
         .arg(ToQString(technology.Name),
              QLatin1StringView(fields.at(static_cast<std::size_t>(technology.Field))),

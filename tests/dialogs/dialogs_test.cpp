@@ -1,10 +1,13 @@
 #include "dialogs/about_form.h"
+#include "dialogs/color_select_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/tech_form.h"
 #include "model/game_state.h"
 #include "tests/window_test.h"
 
+#include <QClipboard>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 
 namespace ksm {
@@ -38,6 +41,30 @@ TEST_F(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
         box.insertPlainText(QString::fromUtf8("\né€\t😀"));
         EXPECT_EQ(game.NotesText, "tax\né€\t😀");
     }
+}
+
+TEST_F(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
+    GameState game;
+    game.View.EditedPlayer = 3;
+    ColorSelectForm form(game, &owner);
+    for (const char* name : {"NameEntry", "ShortNameEntry"}) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8("a\tb\nc\u2028d\u00A0e\u200D"));
+        auto& box = *form.findChild<QLineEdit*>(name);
+        box.clear();
+        box.paste();
+    }
+    EXPECT_EQ(game.Player(3).Name, "a b c d\u00A0e\u200D");
+    EXPECT_EQ(game.Player(3).ShortName, "a b c d\u00A0e\u200D");
+}
+
+TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
+    GameState game;
+    game.NotesText = "tax";
+    const NoteForm form(game, &owner);
+    // As an empty clipboard under X11 does: data without a format.
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    form.findChild<QPlainTextEdit*>("Aant")->paste();
+    EXPECT_EQ(game.NotesText, "tax");
 }
 
 TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {

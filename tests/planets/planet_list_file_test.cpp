@@ -25,6 +25,8 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"\xEF\xBB\xBFZo\xC3\xAB,1", {"Zo\xC3\xAB", 1, 0, None}},
     {"\xEF\xBB\xBF'comment\rAlpha", {"Alpha", 0, 0, None}},
     {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
+    {"\xF4\x8F\xBF\xBF", {"\xF4\x8F\xBF\xBF", 0, 0, None}}, // the last character of Unicode
+    {"\xF4\x90\x80\x80", {"\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC", 0, 0, None}},
     {"\xED\xA0\x80", {"\xC3\xAD\xC2\xA0\xE2\x82\xAC", 0, 0, None}},
     // Numbers.
     {"N,3x,1,Blue", {"N", 3, 1, Blue}},
