@@ -53,8 +53,8 @@ TEST_F(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
         box.clear();
         box.paste();
     }
-    EXPECT_EQ(game.Player(3).Name, "a b c d\u00A0e\u200D");
-    EXPECT_EQ(game.Player(3).ShortName, "a b c d\u00A0e\u200D");
+    EXPECT_EQ(game.Game.Player(3).Name, "a b c d\u00A0e\u200D");
+    EXPECT_EQ(game.Game.Player(3).ShortName, "a b c d\u00A0e\u200D");
 }
 
 TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
