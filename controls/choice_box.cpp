@@ -112,7 +112,7 @@ void ChoiceBox::PlaceText() {
     constexpr int ArrowWidth = 15;
     constexpr int NarrowBox = 70;
     if (width() < NarrowBox) {
-        lineEdit()->setGeometry(1, 2, width() - 1 - ArrowWidth, height() - 4);
+        lineEdit()->setGeometry(1, 1, width() - 1 - ArrowWidth, height() - 2);
     }
     FitText(currentText());
 }
