@@ -75,12 +75,6 @@ void CaptionLabel::AnnounceName() {
     }
 }
 
-void CaptionLabel::MakeClickable() {
-    clickable = true;
-    // Not by mouse: a click acts and leaves the focus where it is.
-    setFocusPolicy(Qt::TabFocus);
-}
-
 QString CaptionLabel::ShownText() const {
     Fit();
     return shownText;
@@ -168,7 +162,7 @@ void CaptionLabel::changeEvent(QEvent* event) {
 void CaptionLabel::keyPressEvent(QKeyEvent* event) {
     const bool acts = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                       event->key() == Qt::Key_Enter;
-    if (!acts || focusPolicy() == Qt::NoFocus) {
+    if (!acts || !IsClickable()) {
         QWidget::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
         Activate();
@@ -176,13 +170,13 @@ void CaptionLabel::keyPressEvent(QKeyEvent* event) {
 }
 
 void CaptionLabel::Activate() {
-    if (clickable && TakesInput(*this)) {
+    if (IsClickable() && TakesInput(*this)) {
         emit Clicked();
     }
 }
 
 void CaptionLabel::mousePressEvent(QMouseEvent* event) {
-    pressed = clickable && event->button() == Qt::LeftButton;
+    pressed = IsClickable() && event->button() == Qt::LeftButton;
     if (!pressed) {
         QWidget::mousePressEvent(event);
     }

@@ -48,8 +48,10 @@ public:
     void SetExplanation(std::function<std::string()> explain) { explanation = std::move(explain); }
     QString Explanation() const;
 
-    /// Lets the mouse, and Space or Return after Tab, click the label.
-    void MakeClickable();
+    /// Lets the mouse, and Space or Return after Tab, click the label. The mouse leaves the focus
+    /// where it is.
+    void MakeClickable() { setFocusPolicy(Qt::TabFocus); }
+    bool IsClickable() const { return focusPolicy() != Qt::NoFocus; }
     /// Does what Space or Return does: clicks a clickable label.
     virtual void Activate();
 
@@ -75,7 +77,6 @@ private:
     std::function<std::string()> explanation;
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     int smallestText = 0;
-    bool clickable = false;
     bool pressed = false;
     // What fits the label at this width; found when first needed after a change.
     mutable int fittedWidth = -1;

@@ -46,7 +46,7 @@ QString AccessibleName(const Technology& technology, const TechChart& chart) {
              Requirement(technology, chart));
 }
 
-QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
+void MakeBox(const TechChart& chart, int index, QWidget* parent) {
     const Technology& technology = chart.Label1.at(static_cast<std::size_t>(index));
     auto* box = new QLabel(parent);
     box->setObjectName(ElementName("Label1", index));
@@ -60,7 +60,6 @@ QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
     colours.setColor(QPalette::WindowText, Qt::white);
     box->setPalette(colours);
     box->setAutoFillBackground(true);
-    return box;
 }
 
 void MakeLegend(QWidget* parent) {
@@ -70,7 +69,7 @@ void MakeLegend(QWidget* parent) {
     legend->setFont(BoxFont());
     legend->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     legend->setGeometry(LegendSample.X + 13, LegendSample.Y - 8, 40, 17);
-    // A click on it is nobody's click; the boxes hand theirs on to the window.
+    // A click on it does nothing.
     legend->setAttribute(Qt::WA_NoMousePropagation);
 }
 
@@ -109,7 +108,7 @@ TechForm::TechForm(const char* objectName, const QString& title, const TechChart
                    QWidget* owner)
     : FixedDialog(objectName, title, QSize(ChartWidth, ChartHeight), owner), chart(shown) {
     for (int index = 0; index < static_cast<int>(chart.Label1.size()); ++index) {
-        boxes.append(MakeBox(chart, index, this));
+        MakeBox(chart, index, this);
     }
     MakeLegend(this);
     Form_Load();
@@ -123,23 +122,14 @@ void TechForm::Form_Click() {
     close();
 }
 
-void TechForm::Label1_Click(qsizetype) {
-    close();
-}
-
+// The boxes hand their clicks on to the window.
 void TechForm::mousePressEvent(QMouseEvent* event) {
     pressed = event->button() == Qt::LeftButton;
 }
 
 void TechForm::mouseReleaseEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
-    if (!pressed || event->button() != Qt::LeftButton || !rect().contains(place)) {
-        return;
-    }
-    const qsizetype box = boxes.indexOf(childAt(place));
-    if (box >= 0) {
-        Label1_Click(box);
-    } else {
+    if (pressed && event->button() == Qt::LeftButton &&
+        rect().contains(event->position().toPoint())) {
         Form_Click();
     }
 }

@@ -6,6 +6,7 @@
 #include "tests/window_test.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -22,8 +23,19 @@ TEST_F(Dialogs, AddressesCannotBeChanged) {
     form->show();
     for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
         const QString address = box->text();
+        QGuiApplication::clipboard()->setText("x");
+        box->selectAll();
+        for (const auto key : {QKeySequence::Cut, QKeySequence::Paste, QKeySequence::Undo}) {
+            QTest::keySequence(box, key);
+        }
         QTest::keyClicks(box, "x");
+        QMimeData dragged;
+        dragged.setText("x");
+        QDropEvent drop({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(box, &drop);
         EXPECT_EQ(box->text(), address);
+        QTest::keySequence(box, QKeySequence::Copy);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), address);
     }
     QTest::mouseClick(form->findChild<QPushButton*>("Command1"), Qt::LeftButton);
     EXPECT_TRUE(IsUnloaded(form));
