@@ -81,6 +81,40 @@ TEST(ShowGame, ALoadedGameTakesThePlaceOfAnyOther) {
     }
 }
 
+/// Names the controls that are painted while it lives.
+class Painted : public QObject {
+public:
+    Painted() { qApp->installEventFilter(this); }
+    QSet<QString> Names;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            Names << watched->objectName();
+        }
+        return false;
+    }
+};
+
+TEST(ShowGame, PaintsWhatChangedAndNoMore) {
+    GameWindow game;
+    game.Activate();
+    game.Start();
+    OnScreen(game.window);
+    Painted painted;
+    game.Click("Enviro", 2);
+    OnScreen(game.window);
+    // The figures beside it reach a pixel into the influence, and the rest lies below.
+    EXPECT_EQ(painted.Names,
+              QSet<QString>({"Enviro(2)", "PellamTools(2)", "Micro(2)", "PlayerInfluence(2)",
+                             "PlayerResources(2)", "PlayerPlanets(2)", "PInf(1)", "PInf(2)",
+                             "UpLefPic", "", "Korvane"}));
+    painted.Names.clear();
+    game.window.ShowGame();
+    OnScreen(game.window);
+    EXPECT_TRUE(painted.Names.isEmpty());
+}
+
 TEST(ShowGame, OpenNotesShowTheLoadedTextForGood) {
     GameWindow game;
     game.Choose("Notes");
