@@ -105,10 +105,11 @@ void Korvane::PlayerName_Click(int player) {
     state.View.EditedPlayer = player;
     auto* form = new ColorSelectForm(state, this);
     MakeOneStepOf(form);
-    connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
     connect(form, &ColorSelectForm::Confirmed, this, &Korvane::NameConfirmed);
     form->Form_Load();
     // What loading changed belongs to the click.
+    ShowPlayer(player);
+    connect(form, &ColorSelectForm::Changed, this, [this, player] { ShowPlayer(player); });
     connect(form, &ColorSelectForm::Changed, this, &Korvane::Changed);
     form->move(pos() + table->Column(player).NamePlace() + QPoint(0, FromTwips(1000)));
     form->show();
