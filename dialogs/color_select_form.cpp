@@ -124,23 +124,20 @@ void ColorSelectForm::NameEntry_Change(const QString& text) {
     const QString shortName = FirstCharacters(text, 3);
     SetName(state.Game, player, text.toStdString(), shortName.toStdString());
     ShortNameEntry->setText(shortName);
-    emit PlayerChanged(player);
     emit Changed();
 }
 
-// Also runs when the name brings its short name along.
+// Also runs when the name brings its short name along, which is no change of its own.
 void ColorSelectForm::ShortNameEntry_Change(const QString& text) {
     const std::string shortName = text.toStdString();
     if (shortName != state.Game.Player(player).ShortName) {
         state.Game.Player(player).ShortName = shortName;
-        emit PlayerChanged(player);
         emit Changed();
     }
 }
 
 void ColorSelectForm::NameColor_Click(int swatch) {
     SetColours(state.Game, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
-    emit PlayerChanged(player);
     emit Changed();
 }
 

@@ -15,8 +15,6 @@ inline constexpr int ChartWidth = 553;
 inline constexpr int ChartHeight = 475;
 inline constexpr int TechBoxWidth = 77;
 inline constexpr int TechBoxHeight = 33;
-/// Two boxes of the expansion are this wide.
-inline constexpr int NarrowWidth = 71;
 /// How far a stroke of an arrowhead or diamond reaches to the side, and up or down.
 inline constexpr int StrokeSize = 7;
 
@@ -71,15 +69,11 @@ const TechChart& ExpansionChart();
 
 Colour BoxColour(TechField field);
 
-struct ChartStroke {
-    Point From;
-    Point To;
-};
-
-/// Two strokes that meet at `From`: an arrowhead, or the lower or upper half of a diamond.
+/// Two strokes from a tip to these ends: an arrowhead, or the lower or upper half of a diamond.
 struct StrokePair {
-    ChartStroke Line2;
-    ChartStroke Line3;
+    Point Tip;
+    Point Line2;
+    Point Line3;
     Colour Ink;
 };
 

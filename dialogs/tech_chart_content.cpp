@@ -14,6 +14,8 @@ namespace {
 
 using enum TechField;
 
+constexpr int NarrowWidth = 71;
+
 /// Where a line runs through the gap between two rows; `Last` above the row of the expansion.
 enum class Level : std::uint8_t { Upper, Middle, Lower, Last };
 

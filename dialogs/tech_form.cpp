@@ -85,11 +85,11 @@ void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
     for (const StrokePair& pair : pairs) {
         painter.setPen(
             QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        const QPointF tip = ToQPoint(pair.Line2.From);
+        const QPointF tip = ToQPoint(pair.Tip);
         const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
         // Both meet at the tip.
-        const std::array points{ToQPoint(pair.Line2.To) + even, tip + even,
-                                ToQPoint(pair.Line3.To) + even};
+        const std::array points{ToQPoint(pair.Line2) + even, tip + even,
+                                ToQPoint(pair.Line3) + even};
         painter.drawPolyline(points.data(), points.size());
     }
 }

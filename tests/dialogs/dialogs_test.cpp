@@ -59,12 +59,14 @@ TEST_F(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
     GameState game;
     game.View.EditedPlayer = 3;
     ColorSelectForm form(game, &owner);
+    const QSignalSpy changes(&form, &ColorSelectForm::Changed);
     for (const char* name : {"NameEntry", "ShortNameEntry"}) {
         QGuiApplication::clipboard()->setText(QString::fromUtf8("a\tb\nc\u2028d\u00A0e\u200D"));
         auto& box = *form.findChild<QLineEdit*>(name);
-        box.clear();
+        box.selectAll();
         box.paste();
     }
+    EXPECT_EQ(changes.count(), 2) << "the name brings its short name along";
     EXPECT_EQ(game.Game.Player(3).Name, "a b c d\u00A0e\u200D");
     EXPECT_EQ(game.Game.Player(3).ShortName, "a b c d\u00A0e\u200D");
 }
