@@ -99,21 +99,25 @@ void Korvane::ConnectPanels() {
 }
 
 void Korvane::ConnectMenu() {
-    connect(menu->LGame, &QAction::triggered, this, &Korvane::LGame_Click);
-    connect(menu->SGame, &QAction::triggered, this, &Korvane::SGame_Click);
-    connect(menu->Quit, &QAction::triggered, this, &Korvane::Quit_Click);
-    connect(menu->MenuOrlen, &QAction::triggered, this, &Korvane::MenuOrlen_Click);
-    connect(menu->Notes, &QAction::triggered, this, &Korvane::Notes_Click);
-    connect(menu->Dice, &QAction::triggered, this, &Korvane::Dice_Click);
-    connect(menu->Stech, &QAction::triggered, this, &Korvane::Stech_Click);
-    connect(menu->HTech, &QAction::triggered, this, &Korvane::HTech_Click);
-    connect(menu->MenuTechMod, &QAction::triggered, this, &Korvane::MenuTechMod_Click);
-    connect(menu->MenuLabour, &QAction::triggered, this, &Korvane::MenuLabour_Click);
-    connect(menu->Tres, &QAction::triggered, this, &Korvane::Tres_Click);
-    connect(menu->TFree, &QAction::triggered, this, &Korvane::TFree_Click);
-    connect(menu->TRestr, &QAction::triggered, this, &Korvane::TRestr_Click);
-    connect(menu->TStop, &QAction::triggered, this, &Korvane::TStop_Click);
-    connect(menu->About, &QAction::triggered, this, &Korvane::About_Click);
+    const std::pair<const char*, void (Korvane::*)()> handlers[]{
+        {"LGame", &Korvane::LGame_Click},
+        {"SGame", &Korvane::SGame_Click},
+        {"Quit", &Korvane::Quit_Click},
+        {"MenuOrlen", &Korvane::MenuOrlen_Click},
+        {"Notes", &Korvane::Notes_Click},
+        {"Dice", &Korvane::Dice_Click},
+        {"Stech", &Korvane::Stech_Click},
+        {"HTech", &Korvane::HTech_Click},
+        {"MenuTechMod", &Korvane::MenuTechMod_Click},
+        {"MenuLabour", &Korvane::MenuLabour_Click},
+        {"Tres", &Korvane::Tres_Click},
+        {"TFree", &Korvane::TFree_Click},
+        {"TRestr", &Korvane::TRestr_Click},
+        {"TStop", &Korvane::TStop_Click},
+        {"About", &Korvane::About_Click}};
+    for (const auto& [item, handler] : handlers) {
+        connect(menu->findChild<QAction*>(item), &QAction::triggered, this, handler);
+    }
 }
 
 void Korvane::UpdateValues() {
