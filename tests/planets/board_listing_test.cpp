@@ -1,5 +1,6 @@
 #include "economy/value_update.h"
 #include "planets/board_listing.h"
+#include "planets/owner_place.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,14 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
         {BoardGame(4, 10), {0, 2, none, none, none, none, none, none, none, none, none, none}}};
     for (const auto& [state, expected] : rows) {
         EXPECT_EQ(ListBoard(state), expected) << state.Game.NumPlanets << " planets";
+    }
+}
+
+TEST(TopOfOwner, SpreadsTheOwnersOverTheBoard) {
+    const std::tuple<int, int, int> rows[]{{1, 2, 36},  {6, 6, 161}, {1, 7, 31},
+                                           {7, 7, 157}, {8, 8, 157}, {10, 10, 166}};
+    for (const auto& [player, players, top] : rows) {
+        EXPECT_EQ(TopOfOwner(player, players), top) << player << " of " << players;
     }
 }
 
