@@ -25,13 +25,13 @@ public:
     explicit JsonWriter(Form ownForm = Form::Object) : form(ownForm) {}
 
     void Number(const char* name, qint64 value, qint64, qint64) { Put(name, value); }
-    void Truth(const char* name, bool value) { Put(name, value); }
+    void Bool(const char* name, bool value) { Put(name, value); }
     void Text(const char* name, const std::string& utf8);
-    void Hue(const char* name, Colour colour);
-    void Place(const char* name, Point place, int, int);
+    void Colour(const char* name, ksm::Colour colour);
+    void Point(const char* name, ksm::Point point, int, int);
 
-    template<typename Enum>
-    void Word(const char* name, Enum value, std::span<const std::string_view> words) {
+    template<typename Enumeration>
+    void Enum(const char* name, Enumeration value, std::span<const std::string_view> words) {
         Put(name, QLatin1StringView(words[static_cast<std::size_t>(value)]));
     }
 
