@@ -85,7 +85,7 @@ private:
     static void DescribePlanets(Members& members, State& state) {
         const auto loaded = state.Game.LoadedPlanets();
         std::vector<PlanetRecord> planets(loaded.begin(), loaded.end());
-        members.Rows("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
+        members.List("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
             constexpr int LargestByte = std::numeric_limits<std::uint8_t>::max();
             planet.Text("Name", record.Name);
             planet.Number("Resources", record.Resources, 0, LargestByte);
@@ -115,8 +115,9 @@ private:
     // race.
     template<typename Members, typename State>
     static void DescribePlayers(Members& members, State& state) {
-        const auto players = std::span(state.Game.Players).subspan(1, MaxPlayers);
-        members.Elements("Players", players, [&](auto& player, auto& record) {
+        const auto slots = std::span(state.Game.Players).subspan(1, MaxPlayers);
+        std::vector<PlayerRecord> players(slots.begin(), slots.end());
+        members.List("Players", players, MaxPlayers, MaxPlayers, [&](auto& player, auto& record) {
             player.Text("Name", record.Name);
             player.Bool("Named", record.Named);
             player.Text("ShortName", record.ShortName);
@@ -132,6 +133,9 @@ private:
             DescribePlanetList(player, "PlanetList", record, state.Game.NumPlanets);
             player.Number("TradeRing", record.TradeRing, MinPlayers, MaxPlayers);
         });
+        if constexpr (Members::Reading) {
+            std::ranges::move(players, slots.begin());
+        }
     }
 
     static constexpr auto DescribeColours = [](auto& pair, auto& colours) {

@@ -58,17 +58,13 @@ void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, in
 }
 
 void JsonReader::Finish() {
-    if (!restOfRow.isEmpty()) {
-        Refuse(ownPlace, "is too long");
-    }
     if (!rest.isEmpty()) {
         Refuse(Where(qPrintable(rest.begin().key().left(40))), "is unknown");
     }
 }
 
 QJsonValue JsonReader::Extract(const char* name) {
-    QJsonValue value =
-        isRow && !restOfRow.isEmpty() ? restOfRow.takeAt(0) : rest.take(QLatin1StringView(name));
+    QJsonValue value = rest.take(QLatin1StringView(name));
     if (value.isUndefined()) {
         Refuse(Where(name), "is missing");
     }

@@ -23,13 +23,9 @@ class JsonReader {
 public:
     static constexpr bool Reading = true;
 
-    /// Reads the members of an object, or those of a row, a list that leaves their names out.
-    /// `place` says where in the file it stands, as in "Players[3]"; it may be empty.
+    /// `place` says where in the file the object stands, as in "Players[3]"; it may be empty.
     JsonReader(QJsonObject object, QString place, QString& problem)
         : rest(std::move(object)), ownPlace(std::move(place)), firstProblem(problem) {}
-    JsonReader(QJsonArray row, QString place, QString& problem)
-        : isRow(true), restOfRow(std::move(row)), ownPlace(std::move(place)),
-          firstProblem(problem) {}
 
     template<typename Whole>
     void Number(const char* name, Whole& value, qint64 least, qint64 most) {
@@ -56,17 +52,6 @@ public:
     void Numbers(const char* name, std::vector<std::uint8_t>& values, int longest, int least,
                  int most);
 
-    /// A list of exactly as many objects as there are values.
-    template<typename Value, typename DescribeMembers>
-    void Elements(const char* name, std::span<Value> values, const DescribeMembers& describe) {
-        const int count = static_cast<int>(values.size());
-        qsizetype index = 0;
-        for (const QJsonValue element : ExtractList(name, count, count)) {
-            Read(element, Where(name, index), values[static_cast<std::size_t>(index)], describe);
-            ++index;
-        }
-    }
-
     /// A list of `fewest` to `longest` objects.
     template<typename Value, typename DescribeMembers>
     void List(const char* name, std::vector<Value>& values, int fewest, int longest,
@@ -75,22 +60,6 @@ public:
         for (const QJsonValue element : ExtractList(name, fewest, longest)) {
             const QString place = Where(name, static_cast<qsizetype>(values.size()));
             Read(element, place, values.emplace_back(), describe);
-        }
-    }
-
-    /// A list of `fewest` to `longest` rows.
-    template<typename Value, typename DescribeMembers>
-    void Rows(const char* name, std::vector<Value>& values, int fewest, int longest,
-              const DescribeMembers& describe) {
-        values.clear();
-        for (const QJsonValue element : ExtractList(name, fewest, longest)) {
-            const QString place = Where(name, static_cast<qsizetype>(values.size()));
-            if (!element.isArray()) {
-                Refuse(place, "is not a list");
-            }
-            JsonReader members(element.toArray(), place, firstProblem);
-            describe(members, values.emplace_back());
-            members.Finish();
         }
     }
 
@@ -121,9 +90,7 @@ private:
     /// Notes that `where` is wrong, unless something is already.
     void Refuse(const QString& where, const QString& what);
 
-    bool isRow = false;
     QJsonObject rest;
-    QJsonArray restOfRow;
     QString ownPlace;
     QString& firstProblem;
 };
