@@ -56,10 +56,10 @@ void Korvane::LGame_Click() {
 }
 
 void Korvane::SGame_Click() {
-    if (kept && !kept->Problem().isEmpty()) {
+    if (kept && !kept->LastOutcome()) {
         ShowMessage(QMessageBox::Warning, ProgramTitle,
                     QString("The running game is not kept in \"%1\".").arg(KeptGameName),
-                    kept->Problem(), this);
+                    QString::fromStdString(kept->LastOutcome().Reason()), this);
     }
     OpenModal<SaveForm>(this, state);
 }

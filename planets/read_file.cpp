@@ -6,12 +6,19 @@
 
 namespace ksm {
 
-Outcome<std::string> ReadFile(const std::filesystem::path& path) {
+Outcome<> CheckFile(const std::filesystem::path& path) {
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(path, error);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        return Failure{"This is not a file."};
+    const bool isOther =
+        std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+    return isOther ? Failure{"This is not a file."} : Outcome();
+}
+
+Outcome<std::string> ReadFile(const std::filesystem::path& path) {
+    if (const Outcome<> checked = CheckFile(path); !checked) {
+        return Failure{checked.Reason()};
     }
+    std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
     if (error) {
         return Failure{error.message()};

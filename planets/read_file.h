@@ -11,7 +11,9 @@ namespace ksm {
 /// A larger planet list or saved game is neither written nor read.
 inline constexpr std::uintmax_t LargestFile = std::uintmax_t{1024} * 1024;
 
-/// The bytes of the file. A folder, a pipe or a device is none: that might be read for ever.
+/// Whether a file can be read or replaced there: a folder, a pipe or a device is in the way.
+Outcome<> CheckFile(const std::filesystem::path& path);
+/// The bytes of the file.
 Outcome<std::string> ReadFile(const std::filesystem::path& path);
 
 } // namespace ksm

@@ -1,57 +1,55 @@
 #include "saves/kept_game.h"
 
+#include "planets/read_file.h"
 #include "saves/game_text.h"
 #include "saves/replace_file.h"
 
-#include <QFileInfo>
-
-#include <filesystem>
 #include <system_error>
 
 namespace ksm {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 // A link is renamed itself: what it leads to belongs to somebody else.
-QString RenameEarlierGame() {
-    const QFileInfo earlier(KeptGameName);
-    if (!earlier.exists() && !earlier.isSymLink()) {
+Outcome<> RenameEarlierGame() {
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(KeptGameName, error);
+    if (!fs::exists(status)) {
         return {};
     }
-    if (!earlier.isSymLink() && !earlier.isFile()) {
-        return "This is not a file.";
+    if (!fs::is_symlink(status) && !fs::is_regular_file(status)) {
+        return CheckFile(KeptGameName);
     }
-    std::error_code error;
-    std::filesystem::rename(KeptGameName, EarlierGameName, error);
-    return error ? QString::fromStdString(error.message()) : QString();
+    fs::rename(KeptGameName, EarlierGameName, error);
+    return error ? Failure{error.message()} : Outcome();
 }
 
 } // namespace
 
 void KeptGame::Keep(const GameState& state) {
-    const bool changed = state.Game != kept.Game || state.NotesText != kept.NotesText;
-    if (changed || !problem.isEmpty()) {
-        problem = Write(state);
+    if (state.Game != kept.Game || state.NotesText != kept.NotesText || !outcome) {
+        outcome = Write(state);
         kept = state;
     }
 }
 
-QString KeptGame::Write(const GameState& state) {
-    const QByteArray content = WriteGame(state, QJsonDocument::Compact);
-    if (content.size() > LargestGameFile) {
-        return "The game is larger than 1 MiB, the most that a saved game can hold. "
-               "Shorten the notes.";
+Outcome<> KeptGame::Write(const GameState& state) {
+    const Outcome<QByteArray> content = WriteGame(state, QJsonDocument::Compact);
+    if (!content) {
+        return Failure{content.Reason()};
     }
     if (!isOurs) {
-        QString refused = RenameEarlierGame();
-        if (!refused.isEmpty()) {
-            return refused;
+        if (Outcome<> renamed = RenameEarlierGame(); !renamed) {
+            return renamed;
         }
         RemoveLeftovers(".");
     }
-    QString refused = ReplaceFile(KeptGameName, content, Durability::Process);
-    isOurs = isOurs || refused.isEmpty();
-    return refused;
+    const std::string_view bytes(content->data(), static_cast<std::size_t>(content->size()));
+    Outcome<> written = ReplaceFile(fs::path(".") / KeptGameName, bytes, Durability::Process);
+    isOurs = isOurs || written;
+    return written;
 }
 
 } // namespace ksm

@@ -2,10 +2,7 @@
 #pragma once
 
 #include "model/game_state.h"
-
-#include <QString>
-
-#include <utility>
+#include "model/outcome.h"
 
 namespace ksm {
 
@@ -24,15 +21,15 @@ public:
     /// Keeps the game, if anything but the view changed since it was last kept.
     void Keep(const GameState& state);
 
-    /// Why the last change was not kept; empty when it was.
-    const QString& Problem() const { return problem; }
+    /// Whether the last change was kept, or why not.
+    const Outcome<>& LastOutcome() const { return outcome; }
 
 private:
-    QString Write(const GameState& state);
+    Outcome<> Write(const GameState& state);
 
     GameState kept;
     bool isOurs = false; ///< whether this process wrote the file
-    QString problem;
+    Outcome<> outcome;
 };
 
 } // namespace ksm

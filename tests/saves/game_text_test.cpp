@@ -12,15 +12,14 @@ TEST(GameText, ReadsAndWritesGamesOfTheFirstVersion) {
     QFile file(FIRST_SAVED_GAME);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray saved = file.readAll();
-    EXPECT_EQ(WriteGame(SampleGame()), saved);
+    EXPECT_EQ(*WriteGame(SampleGame()), saved);
     int mode = 0;
     for (const char* word : {"idle", "add first", "add partner", "remove first", "remove partner",
                              "independence first", "independence second"}) {
         QByteArray bytes = QByteArray(saved).replace("add partner", word);
-        EXPECT_EQ(static_cast<int>(ReadGame(bytes).Game.value_or(GameState()).Game.TradeMode),
-                  mode++);
+        EXPECT_EQ(static_cast<int>(ReadGame(bytes)->Game.TradeMode), mode++);
         bytes.replace("\"TradeFirst\": 3", "\"TradeFirst\": 0");
-        EXPECT_EQ(!ReadGame(bytes).Game, QByteArray(word).endsWith("partner")) << word;
+        EXPECT_EQ(!ReadGame(bytes), QByteArray(word).endsWith("partner")) << word;
     }
 }
 
@@ -39,12 +38,12 @@ TEST(GameText, TheLargestGameComesBack) {
             full.Game.Cell(maker, partner) = Agreement;
         }
     }
-    const QByteArray saved = WriteGame(full);
-    const ReadGameResult loaded = ReadGame(saved);
-    ASSERT_TRUE(loaded.Game) << loaded.Problem.toStdString();
-    EXPECT_EQ(WriteGame(*loaded.Game), saved);
+    const QByteArray saved = *WriteGame(full);
+    const Outcome<GameState> loaded = ReadGame(saved);
+    ASSERT_TRUE(loaded) << loaded.Reason();
+    EXPECT_EQ(*WriteGame(*loaded), saved);
     full.Game.Player(3).Name = "no text: half \xED\xA0\xBD of a pair, cut \xF0\x9F";
-    EXPECT_TRUE(ReadGame(WriteGame(full)).Game);
+    EXPECT_TRUE(ReadGame(*WriteGame(full)));
 }
 
 constexpr auto OwnerTen = "\"Owner\": 10";
@@ -102,23 +101,22 @@ const std::array<const char*, 3> Damages[]{
 };
 
 TEST(GameText, RefusesWhateverIsDamaged) {
-    const QByteArray whole = WriteGame(SampleGame());
+    const QByteArray whole = *WriteGame(SampleGame());
     for (const auto& [intact, damaged, problem] : Damages) {
         QByteArray bytes = whole;
         const qsizetype at = bytes.indexOf(intact);
         ASSERT_GE(at, 0) << intact;
         bytes.replace(at, static_cast<qsizetype>(qstrlen(intact)), damaged);
-        const ReadGameResult result = ReadGame(bytes);
-        EXPECT_FALSE(result.Game) << damaged;
-        EXPECT_TRUE(result.Problem.contains(problem))
-            << damaged << ": " << result.Problem.toStdString();
+        const Outcome<GameState> result = ReadGame(bytes);
+        EXPECT_NE(result.Reason().find(problem), std::string::npos)
+            << damaged << ": " << result.Reason();
     }
     for (const char* other : {"", "PK\x03\x04", "{}", "[]", "7", "null", "\"Format\""}) {
-        EXPECT_FALSE(ReadGame(other).Problem.isEmpty()) << other;
+        EXPECT_FALSE(ReadGame(other)) << other;
     }
-    const QByteArray kept = WriteGame(SampleGame(), QJsonDocument::Compact);
+    const QByteArray kept = *WriteGame(SampleGame(), QJsonDocument::Compact);
     for (qsizetype size = 0; size < kept.size(); ++size) {
-        EXPECT_FALSE(ReadGame(kept.first(size)).Game) << "cut at " << size;
+        EXPECT_FALSE(ReadGame(kept.first(size))) << "cut at " << size;
     }
 }
 

@@ -1,3 +1,4 @@
+#include "planets/read_file.h"
 #include "saves/kept_game.h"
 #include "tests/game_window.h"
 #include "tests/saves/saves_folder.h"
@@ -19,7 +20,7 @@ TEST_F(KeptGames, AreWrittenWhenTheGameChanged) {
     game.Game.Laws.FreeTrade = !game.Game.Laws.FreeTrade;
     kept.Keep(game);
     EXPECT_EQ(Files(), QStringList{KeptGameName});
-    EXPECT_EQ(LoadGameFile(KeptGameName).Game->Game.Laws, game.Game.Laws);
+    EXPECT_EQ(LoadGameFile(KeptGameName)->Game.Laws, game.Game.Laws);
     game.NotesText = "late";
     kept.Keep(game);
     EXPECT_EQ(NotesIn(KeptGameName), "late");
@@ -29,7 +30,7 @@ TEST_F(KeptGames, FollowTheMainWindowWhichSaysWhyOneCannotBeKept) {
     KeptGame kept(GameOfTwentyPlanets());
     GameWindow game(GameOfTwentyPlanets(), &kept);
     game.Click("Enviro", 2);
-    EXPECT_TRUE(LoadGameFile(KeptGameName).Game == game.state);
+    EXPECT_TRUE(*LoadGameFile(KeptGameName) == game.state);
     QFile::remove(KeptGameName);
     QDir().mkdir(KeptGameName);
     game.Click("Enviro", 2);
@@ -39,7 +40,7 @@ TEST_F(KeptGames, FollowTheMainWindowWhichSaysWhyOneCannotBeKept) {
 }
 
 TEST_F(KeptGames, TheEveningBeforeGetsAnotherName) {
-    ASSERT_EQ(SaveGameFile(KeptGameName, WithNotes("last week")), "");
+    ASSERT_TRUE(SaveGameFile(KeptGameName, WithNotes("last week")));
     KeptGame kept(SampleGame());
     for (const char* notes : {"tonight", "later tonight"}) {
         kept.Keep(WithNotes(notes));
@@ -49,7 +50,7 @@ TEST_F(KeptGames, TheEveningBeforeGetsAnotherName) {
 }
 
 TEST_F(KeptGames, LinksAreNotFollowed) {
-    ASSERT_EQ(SaveGameFile("mine.ksm", WithNotes("mine")), "");
+    ASSERT_TRUE(SaveGameFile("mine.ksm", WithNotes("mine")));
     for (const char* target : {"mine.ksm", "lost.ksm"}) {
         QFile::remove(KeptGameName);
         ASSERT_TRUE(QFile::link(target, KeptGameName));
@@ -65,13 +66,13 @@ TEST_F(KeptGames, AFailureIsRememberedAndTriedAgain) {
     ASSERT_TRUE(QDir().mkdir(KeptGameName));
     KeptGame kept(SampleGame());
     kept.Keep(WithNotes("one"));
-    EXPECT_EQ(kept.Problem(), "This is not a file.");
+    EXPECT_EQ(kept.LastOutcome().Reason(), "This is not a file.");
     ASSERT_TRUE(QDir().rmdir(KeptGameName));
     kept.Keep(WithNotes("one"));
-    EXPECT_EQ(kept.Problem(), "");
+    EXPECT_EQ(kept.LastOutcome().Reason(), "");
     EXPECT_EQ(NotesIn(KeptGameName), "one");
-    kept.Keep(WithNotes(std::string(LargestGameFile, 'n')));
-    EXPECT_TRUE(kept.Problem().contains("Shorten the notes"));
+    kept.Keep(WithNotes(std::string(LargestFile, 'n')));
+    EXPECT_TRUE(kept.LastOutcome().Reason().ends_with("Shorten the notes."));
     EXPECT_EQ(NotesIn(KeptGameName), "one");
 }
 
