@@ -13,6 +13,7 @@
 #include "dialogs/tech_form.h"
 #include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 
 #include <QApplication>

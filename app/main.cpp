@@ -62,8 +62,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     ksm::KeptGame kept(state);
-    // Two programs must not keep their games in one file.
-    ksm::Korvane window(state, instance.HasLock() ? &kept : nullptr);
+    ksm::Korvane window(state, &kept);
     window.show();
     return QApplication::exec();
 }

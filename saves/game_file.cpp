@@ -1,10 +1,12 @@
 #include "saves/game_file.h"
 
 #include "planets/read_file.h"
+#include "saves/kept_files.h"
 #include "saves/replace_file.h"
 
 #include <QFile>
 
+#include <algorithm>
 #include <system_error>
 
 namespace ksm {
@@ -28,6 +30,9 @@ Failure Explain(const fs::path& path, const std::string& reason) {
 }
 
 Outcome<> CheckName(const fs::path& path) {
+    if (std::ranges::find(KeptGameNames, path.filename()) != KeptGameNames.end()) {
+        return Failure{"The program itself keeps games under this name. Choose another one."};
+    }
     const std::size_t bytes = path.filename().native().size();
     return bytes <= LongestName ? Outcome()
                                 : Failure{"The name has " + std::to_string(bytes) + " bytes, but " +
@@ -45,7 +50,7 @@ Outcome<> Save(const fs::path& path, const GameState& state) {
         }
     }
     // Saving the same game again changes nothing: it is the older one that is kept.
-    const std::string_view bytes(content->data(), static_cast<std::size_t>(content->size()));
+    const std::string bytes = content->toStdString();
     const Outcome<std::string> old = ReadFile(path);
     const bool isSame = old && *old == bytes;
     return ReplaceFile(path, bytes, Durability::Disk, isSame ? fs::path() : fs::path(path) += '~');

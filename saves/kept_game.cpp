@@ -2,36 +2,17 @@
 
 #include "planets/read_file.h"
 #include "saves/game_text.h"
+#include "saves/kept_files.h"
 #include "saves/replace_file.h"
 
-#include <system_error>
+#include <optional>
 
 namespace ksm {
 
-namespace {
-
-namespace fs = std::filesystem;
-
-// A link is renamed itself: what it leads to belongs to somebody else.
-Outcome<> RenameEarlierGame() {
-    std::error_code error;
-    const fs::file_status status = fs::symlink_status(KeptGameName, error);
-    if (!fs::exists(status)) {
-        return {};
-    }
-    if (!fs::is_symlink(status) && !fs::is_regular_file(status)) {
-        return CheckFile(KeptGameName);
-    }
-    fs::rename(KeptGameName, EarlierGameName, error);
-    return error ? Failure{error.message()} : Outcome();
-}
-
-} // namespace
-
 void KeptGame::Keep(const GameState& state) {
-    if (state.Game != kept.Game || state.NotesText != kept.NotesText || !outcome) {
+    if (state.Game != last.Game || state.NotesText != last.NotesText || !outcome) {
         outcome = Write(state);
-        kept = state;
+        last = state;
     }
 }
 
@@ -40,16 +21,40 @@ Outcome<> KeptGame::Write(const GameState& state) {
     if (!content) {
         return Failure{content.Reason()};
     }
-    if (!isOurs) {
-        if (Outcome<> renamed = RenameEarlierGame(); !renamed) {
-            return renamed;
+    if (Outcome<> ours = CheckIsOurs(); !ours) {
+        return ours;
+    }
+    std::optional<KeptFiles> files;
+    if (written.empty() || startTime != state.Game.StartTime) {
+        files.emplace(state.Game.StartTime);
+        if (Outcome<> room = files->MakeRoom(); !room) {
+            return room;
         }
         RemoveLeftovers(".");
     }
-    const std::string_view bytes(content->data(), static_cast<std::size_t>(content->size()));
-    Outcome<> written = ReplaceFile(fs::path(".") / KeptGameName, bytes, Durability::Process);
-    isOurs = isOurs || written;
-    return written;
+    const std::string bytes = content->toStdString();
+    const auto path = std::filesystem::path(".") / KeptGameName;
+    if (Outcome<> done = ReplaceFile(path, bytes, Durability::Process); !done) {
+        return done;
+    }
+    written = bytes;
+    startTime = state.Game.StartTime;
+    if (files) {
+        files->Tidy();
+    }
+    return {};
+}
+
+Outcome<> KeptGame::CheckIsOurs() const {
+    std::error_code ignored;
+    if (written.empty() || !exists(std::filesystem::symlink_status(KeptGameName, ignored))) {
+        return {};
+    }
+    const Outcome<std::string> found = ReadFile(KeptGameName);
+    if (!found) {
+        return Failure{found.Reason()};
+    }
+    return *found == written ? Outcome() : Failure{"Another program keeps its game there."};
 }
 
 } // namespace ksm

@@ -5,6 +5,7 @@
 
 #include "controls/look.h"
 #include "saves/game_file.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/random_play.h"
 
