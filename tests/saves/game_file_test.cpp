@@ -1,5 +1,6 @@
 #include "planets/read_file.h"
 #include "tests/saves/saves_folder.h"
+#include "tests/saves/system_fault.h"
 
 #include <QFileInfo>
 #include <QSysInfo>
@@ -22,6 +23,7 @@ TEST_F(GameFile, ComesBackUnlessItCannotBeWrittenOrRead) {
          "Shorten the notes."},
         {SaveGameFile("a.ksm/b.ksm", SampleGame()).Reason(), "\"b.ksm\" in the folder"},
         {SaveGameFile(folder.path(), SampleGame()).Reason(), "This is not a file."},
+        {SaveGameFile("autosave-4.ksm", SampleGame()).Reason(), "The program itself keeps games"},
         {SaveGameFile(QString(255, 'n'), SampleGame()).Reason(),
          "The name has 255 bytes, but 254 are"},
         {SaveGameFile("no/a.ksm", SampleGame()).Reason(),
@@ -37,6 +39,8 @@ TEST_F(GameFile, ComesBackUnlessItCannotBeWrittenOrRead) {
 }
 
 TEST_F(GameFile, EveryNameThatCanBeSavedCanBeSavedAgainAndLoaded) {
+    std::filesystem::create_directory("no UTF-8: \xFF");
+    std::filesystem::current_path("no UTF-8: \xFF");
     for (const QString& name : {QString(":colon.ksm"), QString(".ksm"), QString(254, 'n')}) {
         for (const char* notes : {"once", "twice"}) {
             EXPECT_TRUE(SaveGameFile(name, WithNotes(notes))) << name.toStdString();
@@ -44,6 +48,8 @@ TEST_F(GameFile, EveryNameThatCanBeSavedCanBeSavedAgainAndLoaded) {
         }
         EXPECT_TRUE(QFileInfo::exists("./" + name));
     }
+    std::filesystem::current_path("..");
+    std::filesystem::remove_all("no UTF-8: \xFF"); // which Qt cannot
 }
 
 TEST_F(GameFile, AnotherGameThatIsReplacedStays) {
@@ -76,6 +82,22 @@ TEST_F(GameFile, RemovesOnlyWhatDeadProcessesLeft) {
     ASSERT_TRUE(SaveGameFile("a.ksm", SampleGame()));
     EXPECT_FALSE(QFileInfo::exists(dead[0]) || QFileInfo::exists(dead[1]));
     EXPECT_EQ(Files().size(), 4);
+}
+
+TEST_F(GameFile, IsSavedOnlyWhenTheSystemSaysSo) {
+    // In the order in which the calls come: for the new file, the copy of the old one, the folder.
+    for (const auto& [call, calls] : {std::pair{"fsync", 3}, {"rename", 2}, {"close", 1}}) {
+        for (int number = 1; number <= calls; ++number) {
+            QFile::remove("a.ksm");
+            ASSERT_TRUE(SaveGameFile("a.ksm", WithNotes("old")));
+            SetFault({.Call = call, .Number = number});
+            const Outcome<> saved = SaveGameFile("a.ksm", WithNotes("new"));
+            SetFault({});
+            EXPECT_TRUE(saved.Reason().ends_with("Input/output error")) << call << number;
+            EXPECT_EQ(NotesIn("a.ksm"), number == 3 ? "new" : "old") << call << number;
+            EXPECT_TRUE(Files().filter(".tmp").empty()) << call << number;
+        }
+    }
 }
 
 // Limits the size of files, which fails halfway just as a full disk does.

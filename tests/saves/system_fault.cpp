@@ -39,7 +39,8 @@ int fsync(int file) {
 }
 
 int close(int file) {
-    const bool strikes = ksm::Strikes("close");
+    const bool isWritten = (fcntl(file, F_GETFL) & O_ACCMODE) == O_WRONLY;
+    const bool strikes = isWritten && ksm::Strikes("close");
     const int result = static_cast<int>(syscall(SYS_close, file));
     errno = strikes ? EIO : errno;
     return strikes ? -1 : result;
