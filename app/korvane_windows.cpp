@@ -13,6 +13,7 @@
 #include "dialogs/tech_form.h"
 #include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 
 #include <QApplication>
@@ -56,10 +57,10 @@ void Korvane::LGame_Click() {
 }
 
 void Korvane::SGame_Click() {
-    if (kept && !kept->Problem().isEmpty()) {
+    if (kept && !kept->LastOutcome()) {
         ShowMessage(QMessageBox::Warning, ProgramTitle,
                     QString("The running game is not kept in \"%1\".").arg(KeptGameName),
-                    kept->Problem(), this);
+                    QString::fromStdString(kept->LastOutcome().Reason()), this);
     }
     OpenModal<SaveForm>(this, state);
 }

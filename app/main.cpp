@@ -20,13 +20,13 @@ namespace {
 /// anything is.
 bool LoadPlanetList(ksm::GameState& state) {
     const std::filesystem::path path = ksm::ProgramFolder() / ksm::PlanetListName;
-    const ksm::PlanetListResult list = ksm::ReadPlanetListFile(path);
-    if (!list.Problems.empty()) {
+    const auto list = ksm::ReadPlanetListFile(ksm::ProgramFolder() / ksm::PlanetListName);
+    if (!list) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
-                         QString::fromStdString(ksm::DescribeProblems(path, list.Problems)));
+                         QString::fromStdString(list.Reason()));
         return false;
     }
-    ksm::TakePlanets(state.Game, list.Planets);
+    ksm::TakePlanets(state.Game, *list);
     return true;
 }
 
@@ -62,8 +62,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     ksm::KeptGame kept(state);
-    // Two programs must not keep their games in one file.
-    ksm::Korvane window(state, instance.HasLock() ? &kept : nullptr);
+    ksm::Korvane window(state, &kept);
     window.show();
     return QApplication::exec();
 }

@@ -33,7 +33,7 @@ void LoadPlanetList(benchmark::State& run) {
         bytes += "World" + std::to_string(line) + ",3,2,blue\r\n";
     }
     for ([[maybe_unused]] auto _ : run) {
-        PlanetListResult list = ReadPlanetList(bytes);
+        Outcome<PlanetList> list = ReadPlanetList(bytes);
         benchmark::DoNotOptimize(list);
     }
     run.SetBytesProcessed(run.iterations() * static_cast<std::int64_t>(bytes.size()));

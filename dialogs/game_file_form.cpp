@@ -91,11 +91,11 @@ void GameFileForm::Confirm() {
     if (!FileNam->text().endsWith(Extension)) {
         FileNam->setText(FileNam->text() + Extension);
     }
-    const QString problem = UseFile(FileNam->text());
-    if (problem.isEmpty()) {
+    if (const Outcome<> used = UseFile(FileNam->text()); used) {
         accept();
     } else {
-        ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText, problem, this);
+        ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText,
+                    QString::fromStdString(used.Reason()), this);
     }
 }
 

@@ -18,7 +18,7 @@ signals:
     void GameLoaded(const ksm::GameState& game);
 
 protected:
-    QString UseFile(const QString& name) override;
+    Outcome<> UseFile(const QString& name) override;
 };
 
 } // namespace ksm

@@ -63,11 +63,11 @@ struct GameMembers {
         DescribePlayers(members, state);
         DescribeTrade(members, state);
         members.Object("Laws", state.Game.Laws, [](auto& laws, auto& marks) {
-            laws.Truth("LabourUnion", marks.LabourUnion);
-            laws.Truth("EconomicIndependence", marks.EconomicIndependence);
-            laws.Truth("FreeTrade", marks.FreeTrade);
-            laws.Truth("TradeRestrictions", marks.TradeRestrictions);
-            laws.Truth("OrlenHouseRules", marks.OrlenHouseRules);
+            laws.Bool("LabourUnion", marks.LabourUnion);
+            laws.Bool("EconomicIndependence", marks.EconomicIndependence);
+            laws.Bool("FreeTrade", marks.FreeTrade);
+            laws.Bool("TradeRestrictions", marks.TradeRestrictions);
+            laws.Bool("OrlenHouseRules", marks.OrlenHouseRules);
         });
         members.Number("GreenModifier", state.Game.GreenModifier, 0, MaxModifier);
         members.Number("BlueModifier", state.Game.BlueModifier, 0, MaxModifier);
@@ -85,12 +85,12 @@ private:
     static void DescribePlanets(Members& members, State& state) {
         const auto loaded = state.Game.LoadedPlanets();
         std::vector<PlanetRecord> planets(loaded.begin(), loaded.end());
-        members.Rows("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
+        members.List("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
             constexpr int LargestByte = std::numeric_limits<std::uint8_t>::max();
             planet.Text("Name", record.Name);
             planet.Number("Resources", record.Resources, 0, LargestByte);
             planet.Number("Influence", record.Influence, 0, LargestByte);
-            planet.Word("Specialty", record.Specialty, SpecialtyWords);
+            planet.Enum("Specialty", record.Specialty, SpecialtyWords);
             planet.Number("Owner", record.Owner, NeutralOwner, MaxPlayers);
         });
         if constexpr (Members::Reading) {
@@ -115,28 +115,32 @@ private:
     // race.
     template<typename Members, typename State>
     static void DescribePlayers(Members& members, State& state) {
-        const auto players = std::span(state.Game.Players).subspan(1, MaxPlayers);
-        members.Elements("Players", players, [&](auto& player, auto& record) {
+        const auto slots = std::span(state.Game.Players).subspan(1, MaxPlayers);
+        std::vector<PlayerRecord> players(slots.begin(), slots.end());
+        members.List("Players", players, MaxPlayers, MaxPlayers, [&](auto& player, auto& record) {
             player.Text("Name", record.Name);
-            player.Truth("Named", record.Named);
+            player.Bool("Named", record.Named);
             player.Text("ShortName", record.ShortName);
             player.Object("NameColours", record.NameColours, DescribeColours);
             player.Object("TradeColours", record.TradeColours, DescribeColours);
-            player.Word("Race", record.Race, RaceWords);
+            player.Enum("Race", record.Race, RaceWords);
             player.Number("SpaceDocks", record.SpaceDocks, 0, MaxSpaceDocks);
-            player.Truth("Enviro", record.Enviro);
-            player.Truth("PellamTools", record.PellamTools);
-            player.Truth("PellamToolsEnabled", record.PellamToolsEnabled);
-            player.Truth("Micro", record.Micro);
-            player.Truth("MicroEnabled", record.MicroEnabled);
+            player.Bool("Enviro", record.Enviro);
+            player.Bool("PellamTools", record.PellamTools);
+            player.Bool("PellamToolsEnabled", record.PellamToolsEnabled);
+            player.Bool("Micro", record.Micro);
+            player.Bool("MicroEnabled", record.MicroEnabled);
             DescribePlanetList(player, "PlanetList", record, state.Game.NumPlanets);
             player.Number("TradeRing", record.TradeRing, MinPlayers, MaxPlayers);
         });
+        if constexpr (Members::Reading) {
+            std::ranges::move(players, slots.begin());
+        }
     }
 
     static constexpr auto DescribeColours = [](auto& pair, auto& colours) {
-        pair.Hue("Back", colours.Back);
-        pair.Hue("Text", colours.Text);
+        pair.Colour("Back", colours.Back);
+        pair.Colour("Text", colours.Text);
     };
 
     template<typename Members, typename State>
@@ -151,16 +155,16 @@ private:
                 state.Game.Cell(saved.Maker, saved.Partner) = Agreement;
             }
         }
-        members.Word("TradeMode", state.Game.TradeMode, TradeModeWords);
+        members.Enum("TradeMode", state.Game.TradeMode, TradeModeWords);
         members.Number("TradeFirst", state.Game.TradeFirst, 0, MaxPlayers);
         members.Text("TradeInfo", state.Game.TradeInfo);
         members.Number("IndepFirst", state.Game.IndepFirst, 0, MaxPlayers);
         members.Number("IndepSecond", state.Game.IndepSecond, 0, MaxPlayers);
         members.List("TradeStrokes", state.Game.TradeStrokes, 0, MaxStrokes,
                      [](auto& stroke, auto& drawn) {
-                         stroke.Place("From", drawn.From, 300, 180);
-                         stroke.Place("To", drawn.To, 300, 180);
-                         stroke.Hue("Colour", drawn.Colour);
+                         stroke.Point("From", drawn.From, 300, 180);
+                         stroke.Point("To", drawn.To, 300, 180);
+                         stroke.Colour("Colour", drawn.Colour);
                          stroke.Number("Width", drawn.Width, 1, 6);
                      });
     }

@@ -37,9 +37,9 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
     GameWindow shown;
     GameState loaded = played.state;
     QObject::connect(&played.window, &Korvane::Changed, [&] {
-        const ReadGameResult read = ReadGame(WriteGame(played.state));
-        ASSERT_TRUE(read.Game) << read.Problem.toStdString();
-        loaded = *read.Game;
+        const Outcome<GameState> read = ReadGame(*WriteGame(played.state));
+        ASSERT_TRUE(read) << read.Reason();
+        loaded = *read;
         // A file holds no marks of a drag, and who reads it ranks the players anew.
         loaded.View = played.state.View;
         loaded.Game.TurnOrderRows = played.state.Game.TurnOrderRows;

@@ -17,9 +17,8 @@ using enum Figure;
 struct Explanations : testing::Test, Game {
     Explanations() {
         NumPlayers = MaxPlayers;
-        TakePlanets(*this, ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
-                                          "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9")
-                               .Planets);
+        TakePlanets(*this, *ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
+                                           "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9"));
         for (int planet = 0; planet < 7; ++planet) {
             Planet(planet).Owner = planet < 3 ? 4 : 10;
         }

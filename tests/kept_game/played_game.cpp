@@ -5,6 +5,7 @@
 
 #include "controls/look.h"
 #include "saves/game_file.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/random_play.h"
 
@@ -18,7 +19,7 @@ namespace {
 /// Short, and the same for the same game and notes.
 void Print(ksm::GameState state) {
     state.View = {};
-    const auto hash = QCryptographicHash::hash(ksm::WriteGame(state), QCryptographicHash::Sha1);
+    const auto hash = QCryptographicHash::hash(*ksm::WriteGame(state), QCryptographicHash::Sha1);
     std::cout << hash.toHex().toStdString() << std::endl;
 }
 
@@ -27,8 +28,8 @@ void Print(ksm::GameState state) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     ksm::ApplyLook();
-    const ksm::ReadGameResult read = ksm::LoadGameFile(ksm::KeptGameName);
-    const ksm::GameState start = read.Game.value_or(ksm::GameOfTwentyPlanets());
+    const auto read = ksm::LoadGameFile(ksm::KeptGameName);
+    const ksm::GameState start = read ? *read : ksm::GameOfTwentyPlanets();
     ksm::KeptGame kept(start);
     ksm::GameWindow game(start, &kept);
     QObject::connect(&game.window, &ksm::Korvane::Changed, [&] { Print(game.state); });

@@ -11,7 +11,7 @@ namespace ksm {
 inline GameState SampleGame() {
     QFile file(FIRST_SAVED_GAME);
     file.open(QIODevice::ReadOnly);
-    return ReadGame(file.readAll()).Game.value();
+    return *ReadGame(file.readAll());
 }
 
 } // namespace ksm
