@@ -18,6 +18,10 @@ using Parts = std::vector<Part>;
 struct FigureDesign {
     const char* Caption = "";
     int PlayerFigures::*Value = nullptr;
+    // Of the costs.
+    Specialty Cheaper = Specialty::None;
+    std::uint8_t PlayerRecord::*Base = nullptr;
+    std::int16_t Game::*Modifier = nullptr;
 };
 
 // In the order of the enumeration.
@@ -26,18 +30,22 @@ constexpr std::array<FigureDesign, FigureCount> Figures{
      {"Influence", &PlayerFigures::Influence},
      {"Planets", &PlayerFigures::PlanetCount},
      {"Credits", &PlayerFigures::Credits},
-     {"Green cost", &PlayerFigures::GreenTech},
-     {"Blue cost", &PlayerFigures::BlueTech},
-     {"Red cost", &PlayerFigures::RedTech},
-     {"Yellow cost", &PlayerFigures::YellowTech}}};
+     {"Green cost", &PlayerFigures::GreenTech, Specialty::Green, &PlayerRecord::GreenCost,
+      &Game::GreenModifier},
+     {"Blue cost", &PlayerFigures::BlueTech, Specialty::Blue, &PlayerRecord::BlueCost,
+      &Game::BlueModifier},
+     {"Red cost", &PlayerFigures::RedTech, Specialty::Red, &PlayerRecord::RedCost,
+      &Game::RedModifier},
+     {"Yellow cost", &PlayerFigures::YellowTech, Specialty::None, &PlayerRecord::YellowCost,
+      &Game::YellowModifier}}};
 
 const FigureDesign& DesignOf(Figure figure) {
     return Figures.at(static_cast<std::size_t>(figure));
 }
 
-/// "1 planet", "3 planets".
+/// " (1 planet)", " (3 planets)".
 std::string Count(int number, const std::string& what) {
-    return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
+    return " (" + std::to_string(number) + ' ' + what + (number == 1 ? ")" : "s)");
 }
 
 int Sum(const Parts& parts) {
@@ -45,62 +53,45 @@ int Sum(const Parts& parts) {
                            [](int sum, const Part& part) { return sum + part.Amount; });
 }
 
-std::vector<const PlanetRecord*> PlanetsOf(const Game& game, int player) {
-    std::vector<const PlanetRecord*> planets;
+/// A part of nothing is left out.
+void Add(Parts& parts, int amount, const std::string& words) {
+    if (amount != 0) {
+        parts.push_back({amount, words});
+    }
+}
+
+/// One part for each planet of the player. A screen has no room for a hundred of them.
+template<typename AmountOf>
+Parts PlanetParts(const Game& game, int player, const AmountOf& amountOf,
+                  const char* inShort = "from planets") {
+    Parts parts;
     for (const PlanetRecord& planet : game.LoadedPlanets()) {
         if (planet.Owner == player) {
-            planets.push_back(&planet);
+            Add(parts, amountOf(planet), planet.Name);
         }
     }
-    return planets;
-}
-
-// A screen has no room for a line for each of a hundred planets.
-Parts Shorten(Parts planets, const char* words = "from planets") {
     constexpr std::size_t MostLines = 12;
-    if (planets.size() > MostLines) {
-        planets = {{Sum(planets), words}};
-    }
-    return planets;
+    return parts.size() > MostLines ? Parts{{Sum(parts), inShort}} : parts;
 }
 
-Parts PlanetParts(const Game& game, int player, std::uint8_t PlanetRecord::*figure) {
-    Parts parts;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        if (planet->*figure != 0) {
-            parts.push_back({planet->*figure, planet->Name});
-        }
-    }
-    return Shorten(parts);
+/// What Pellam Tools make of that many planets.
+void AddPellamTools(Parts& parts, const Game& game, int player, int planets, int each) {
+    Add(parts, PellamToolsBonus(game, player) * planets * each,
+        "Pellam Tools" + Count(planets, "planet"));
 }
 
 Parts ResourceParts(const Game& game, int player) {
-    Parts parts = PlanetParts(game, player, &PlanetRecord::Resources);
-    const int planets = game.Player(player).Figures.PlanetCount;
-    if (PellamToolsBonus(game, player) != 0 && planets != 0) {
-        parts.push_back({planets, "Pellam Tools (" + Count(planets, "planet") + ")"});
-    }
+    Parts parts = PlanetParts(game, player, [](const PlanetRecord& p) { return p.Resources; });
+    AddPellamTools(parts, game, player, game.Player(player).Figures.PlanetCount, 1);
     return parts;
 }
 
 Parts InfluenceParts(const Game& game, int player) {
-    Parts parts = PlanetParts(game, player, &PlanetRecord::Influence);
-    const std::array bonuses{
-        Part{EnviroCompBonus(game, player), "Enviro Comp. (space docks)"},
-        Part{OrrunBonus(game, player), "Orrun (agreements in play)"},
-        Part{AltheranBonus(game, player), "Altheran (planets other than Quessin)"},
-    };
-    std::ranges::copy_if(bonuses, std::back_inserter(parts),
-                         [](const Part& bonus) { return bonus.Amount != 0; });
+    Parts parts = PlanetParts(game, player, [](const PlanetRecord& p) { return p.Influence; });
+    Add(parts, EnviroCompBonus(game, player), "Enviro Comp. (space docks)");
+    Add(parts, OrrunBonus(game, player), "Orrun (agreements in play)");
+    Add(parts, AltheranBonus(game, player), "Altheran (planets other than Quessin)");
     return parts;
-}
-
-Parts CountParts(const Game& game, int player) {
-    Parts parts;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        parts.push_back({1, planet->Name});
-    }
-    return Shorten(parts, "planets (a click on the owner lists them)");
 }
 
 Part PartnerPart(const Game& game, int player, int partner) {
@@ -124,71 +115,30 @@ Parts CreditParts(const Game& game, int player) {
             parts.push_back(PartnerPart(game, player, partner));
         }
     }
-    if (const int credits = FreeTradeBonus(game, partners)) {
-        parts.push_back({credits, "Free Trade (" + Count(credits / 5, "partner") + ")"});
-    }
-    if (const int credits = MicroTechBonus(game, player, partners)) {
-        parts.push_back({credits, "Micro Tech. (" + Count(credits / 3, "partner") + ")"});
-    }
+    const int freeTrade = FreeTradeBonus(game, partners);
+    const int microTech = MicroTechBonus(game, player, partners);
+    Add(parts, freeTrade, "Free Trade" + Count(freeTrade / 5, "partner"));
+    Add(parts, microTech, "Micro Tech." + Count(microTech / 3, "partner"));
     return parts;
 }
 
-/// Wherein the costs of the four colours differ.
-struct CostDesign {
-    Specialty Cheaper = Specialty::None;
-    std::uint8_t PlayerRecord::*Base = nullptr;
-    std::int16_t Game::*Modifier = nullptr;
-};
-
-CostDesign CostOf(Figure figure) {
-    switch (figure) {
-    case Figure::GreenCost:
-        return {Specialty::Green, &PlayerRecord::GreenCost, &Game::GreenModifier};
-    case Figure::BlueCost:
-        return {Specialty::Blue, &PlayerRecord::BlueCost, &Game::BlueModifier};
-    case Figure::RedCost:
-        return {Specialty::Red, &PlayerRecord::RedCost, &Game::RedModifier};
-    default:
-        return {Specialty::None, &PlayerRecord::YellowCost, &Game::YellowModifier};
-    }
-}
-
-Parts DiscountParts(const Game& game, int player, Specialty cheaper) {
-    Parts parts;
-    int planets = 0;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        if (planet->Specialty == cheaper) {
-            ++planets;
-            if (planet->Resources != 0) {
-                parts.push_back({-planet->Resources, planet->Name});
-            }
-        }
-    }
-    parts = Shorten(parts);
-    if (planets != 0 && PellamToolsBonus(game, player) != 0) {
-        parts.push_back({-planets, "Pellam Tools (" + Count(planets, "planet") + ")"});
-    }
-    return parts;
-}
-
-Parts CostParts(const Game& game, int player, const CostDesign& cost) {
+Parts CostParts(const Game& game, int player, const FigureDesign& cost) {
     const PlayerRecord& record = game.Player(player);
-    const int base = record.*cost.Base;
-    Parts parts{{base, "base cost"}};
+    Parts parts{{record.*cost.Base, "base cost"}};
     if (record.Race != Race::None) {
-        parts.front().Words += " of ";
-        parts.front().Words += TraitsOf(record.Race).Caption;
+        parts.front().Words += " of " + std::string(TraitsOf(record.Race).Caption);
     }
     if (cost.Cheaper != Specialty::None) {
-        const Parts discounts = DiscountParts(game, player, cost.Cheaper);
+        int planets = 0;
+        const Parts discounts = PlanetParts(game, player, [&](const PlanetRecord& planet) {
+            planets += planet.Specialty == cost.Cheaper ? 1 : 0;
+            return planet.Specialty == cost.Cheaper ? -planet.Resources : 0;
+        });
         parts.insert(parts.end(), discounts.begin(), discounts.end());
-        if (const int below = Sum(parts); below < 0) {
-            parts.push_back({-below, "(the discount is limited to the base cost)"});
-        }
+        AddPellamTools(parts, game, player, planets, -1);
+        Add(parts, std::max(-Sum(parts), 0), "(the discount is limited to the base cost)");
     }
-    if (const int modifier = game.*cost.Modifier - NeutralModifier) {
-        parts.push_back({modifier, "Tech Modifiers"});
-    }
+    Add(parts, game.*cost.Modifier - NeutralModifier, "Tech Modifiers");
     return parts;
 }
 
@@ -215,15 +165,19 @@ Explanation Explain(const Game& game, int player, Figure figure) {
     const std::string law = swapped ? "Labour Union: influence and resources are swapped" : "";
     switch (figure) {
     case Figure::Resources:
-        return {swapped ? InfluenceParts(game, player) : ResourceParts(game, player), law};
-    case Figure::Influence:
-        return {swapped ? ResourceParts(game, player) : InfluenceParts(game, player), law};
+    case Figure::Influence: {
+        const bool ofResources = (figure == Figure::Resources) != swapped;
+        return {ofResources ? ResourceParts(game, player) : InfluenceParts(game, player), law};
+    }
     case Figure::Planets:
-        return {CountParts(game, player), ""};
+        return {PlanetParts(
+                    game, player, [](const PlanetRecord&) { return 1; },
+                    "planets (a click on the owner lists them)"),
+                ""};
     case Figure::Credits:
         return {CreditParts(game, player), law};
     default:
-        return {CostParts(game, player, CostOf(figure)), ""};
+        return {CostParts(game, player, DesignOf(figure)), ""};
     }
 }
 
