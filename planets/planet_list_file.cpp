@@ -44,22 +44,16 @@ std::string_view TakeField(std::string_view& line) {
 }
 
 Specialty SpecialtyOf(std::string_view field) {
-    std::string word(field);
-    for (char& c : word) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    if (word == "b" || word == "blue") {
-        return Specialty::Blue;
-    }
-    if (word == "g" || word == "green") {
-        return Specialty::Green;
-    }
-    if (word == "r" || word == "red") {
-        return Specialty::Red;
-    }
-    return Specialty::None;
+    constexpr std::array<std::pair<std::string_view, Specialty>, 6> words{
+        {{"b", Specialty::Blue},
+         {"blue", Specialty::Blue},
+         {"g", Specialty::Green},
+         {"green", Specialty::Green},
+         {"r", Specialty::Red},
+         {"red", Specialty::Red}}};
+    const auto found =
+        std::ranges::find(words, LowerCase(field), &decltype(words)::value_type::first);
+    return found == words.end() ? Specialty::None : found->second;
 }
 
 class LineReader {
