@@ -82,7 +82,7 @@ private:
     void MenuTechMod_Click();
     void About_Click();
     void SetModifier(int colour, int modifier);
-    void TakeGame(const GameState& loaded);
+    void LoadForm_GameLoaded(const GameState& loaded);
     void NameConfirmed();
 
     void ShowAndKeep();

@@ -61,7 +61,7 @@ void Korvane::MakeOneStepOf(QWidget* window) {
     connect(window, &QObject::destroyed, this, [this] { history.EndStep(); });
 }
 
-void Korvane::TakeGame(const GameState& loaded) {
+void Korvane::LoadForm_GameLoaded(const GameState& loaded) {
     const std::string notesBefore = std::exchange(state, loaded).NotesText;
     history.RecordLoad(state, notesBefore);
     emit Changed();

@@ -53,7 +53,7 @@ Form* OpenModal(QWidget* owner, Arguments&... arguments) {
 
 void Korvane::LGame_Click() {
     auto* form = OpenModal<LoadForm>(this);
-    connect(form, &LoadForm::GameLoaded, this, &Korvane::TakeGame);
+    connect(form, &LoadForm::GameLoaded, this, &Korvane::LoadForm_GameLoaded);
 }
 
 void Korvane::SGame_Click() {

@@ -26,7 +26,7 @@ bool LoadPlanetList(ksm::GameState& state) {
                          QString::fromStdString(list.Reason()));
         return false;
     }
-    ksm::TakePlanets(state.Game, *list);
+    ksm::SetPlanets(state.Game, *list);
     return true;
 }
 

@@ -50,7 +50,7 @@ int CountPlanets(const Holding& holding) {
     return std::reduce(holding.Planets.begin(), holding.Planets.end());
 }
 
-void TakeHolding(PlayerFigures& player, const Holding& holding, int pellamTools) {
+void SetPlanetFigures(PlayerFigures& player, const Holding& holding, int pellamTools) {
     const auto resources = [&](Specialty specialty) {
         const auto place = static_cast<std::size_t>(specialty);
         return holding.Resources[place] + pellamTools * holding.Planets[place];
@@ -99,8 +99,8 @@ void UpdateValues(Game& game) {
     // The pool's planets are counted, and bring nothing.
     game.Player(NeutralOwner).Figures.PlanetCount = CountPlanets(holdings[NeutralOwner]);
     for (int number = 1; number <= MaxPlayers; ++number) {
-        TakeHolding(game.Player(number).Figures, holdings[static_cast<std::size_t>(number)],
-                    PellamToolsBonus(game, number));
+        SetPlanetFigures(game.Player(number).Figures, holdings[static_cast<std::size_t>(number)],
+                         PellamToolsBonus(game, number));
     }
     for (int number = 1; number <= MaxPlayers; ++number) {
         ComputePlayer(game, number);

@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     Require(!list->empty() && list->size() <= MaxPlanets);
     GameState state;
-    TakePlanets(state.Game, *list);
+    SetPlanets(state.Game, *list);
     for (const PlanetRecord& planet : *list) {
         Require(planet.Name.find_first_of(",\r") == std::string::npos);
     }

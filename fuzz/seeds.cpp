@@ -20,7 +20,7 @@ bool Write(const QString& folder, const QString& name, const QByteArray& bytes) 
 // Small games keep the fuzzer quick.
 ksm::GameState SmallGame() {
     ksm::GameState game;
-    ksm::TakePlanets(game.Game, *ksm::ReadPlanetList("Ith,2,1,b\r\nVeran"));
+    ksm::SetPlanets(game.Game, *ksm::ReadPlanetList("Ith,2,1,b\r\nVeran"));
     return game;
 }
 

@@ -70,7 +70,8 @@ void PlanetBoard::MakeRows() {
     QList<QWidget*> names;
     for (int row = 0; row < BoardRowCount; ++row) {
         const PlanetLabel* name = &rows.emplace_back(row, state.Game, this).Name();
-        connect(name, &PlanetLabel::Pressed, this, [this, row](QPoint grip) { Take(row, grip); });
+        connect(name, &PlanetLabel::Pressed, this,
+                [this, row](QPoint grip) { BeginDragging(row, grip); });
         connect(name, &PlanetLabel::MovedTo, this, &PlanetBoard::DragTo);
         connect(name, &PlanetLabel::ReleasedAt, this, &PlanetBoard::DropAt);
         connect(name, &PlanetLabel::Activated, this, [this, row] { PickUpOrSetDown(row); });

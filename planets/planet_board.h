@@ -53,7 +53,7 @@ private:
     void InvasionPlayer_Click(int owner);
     void PlanetScroller_Change(int position);
 
-    void Take(int row, QPoint grip);
+    void BeginDragging(int row, QPoint grip);
     void DragTo(QPoint global);
     void DropAt(QPoint global);
     void CancelDrag();

@@ -36,7 +36,7 @@ bool PlanetBoard::IsBare(const QWidget* control) const {
            });
 }
 
-void PlanetBoard::Take(int row, QPoint grip) {
+void PlanetBoard::BeginDragging(int row, QPoint grip) {
     PutBack();
     journey = {.ByMouse = true, .Row = row, .Tag = Row(row).Tag(), .Grip = grip};
     qApp->installEventFilter(this);

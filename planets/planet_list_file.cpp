@@ -147,7 +147,7 @@ Outcome<PlanetList> ReadPlanetListFile(const std::filesystem::path& path) {
     return list;
 }
 
-void TakePlanets(Game& game, std::span<const PlanetRecord> planets) {
+void SetPlanets(Game& game, std::span<const PlanetRecord> planets) {
     game.Planets = {};
     std::ranges::copy(planets, game.Planets.begin());
     game.NumPlanets = static_cast<int>(planets.size());

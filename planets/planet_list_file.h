@@ -29,6 +29,6 @@ Outcome<PlanetList> ReadPlanetList(std::string_view bytes);
 Outcome<PlanetList> ReadPlanetListFile(const std::filesystem::path& path);
 
 /// Puts 1..101 planets into the game, all of them unowned, and fills the pool's list and count.
-void TakePlanets(Game& game, std::span<const PlanetRecord> planets);
+void SetPlanets(Game& game, std::span<const PlanetRecord> planets);
 
 } // namespace ksm

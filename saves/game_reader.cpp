@@ -18,7 +18,7 @@ Failure Damaged(const std::string& problem) {
 
 void ComputeWhatFollows(Game& game) {
     for (PlayerRecord& player : game.Players) {
-        TakeCostsOfRace(player);
+        SetCostsOfRace(player);
     }
     UpdateValues(game);
     TurnOrder(game);

@@ -40,7 +40,7 @@ struct Evening : GameWindow {
 
     static GameState DeliveredGame() {
         GameState game;
-        TakePlanets(game.Game, *ReadPlanetListFile(DELIVERED_PLANET_LIST));
+        SetPlanets(game.Game, *ReadPlanetListFile(DELIVERED_PLANET_LIST));
         return game;
     }
     void Trade(int one, int other) const {

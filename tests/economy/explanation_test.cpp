@@ -17,8 +17,8 @@ using enum Figure;
 struct Explanations : testing::Test, Game {
     Explanations() {
         NumPlayers = MaxPlayers;
-        TakePlanets(*this, *ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
-                                           "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9"));
+        SetPlanets(*this, *ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
+                                          "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9"));
         for (int planet = 0; planet < 7; ++planet) {
             Planet(planet).Owner = planet < 3 ? 4 : 10;
         }
@@ -145,7 +145,7 @@ Game RandomGame(std::mt19937& random) {
     for (int player = 2; player <= MaxPlayers; ++player) {
         PlayerRecord& record = game.Player(player);
         record.Race = static_cast<Race>(pick(RaceCount));
-        TakeCostsOfRace(record);
+        SetCostsOfRace(record);
         record.SpaceDocks = pick(MaxSpaceDocks);
         record.Enviro = pick(1) == 1;
         record.PellamTools = pick(1) == 1;

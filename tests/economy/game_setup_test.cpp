@@ -8,7 +8,7 @@ namespace {
 
 Game GameWithPlanets(const char* names) {
     Game game;
-    TakePlanets(game, *ReadPlanetList(names));
+    SetPlanets(game, *ReadPlanetList(names));
     return game;
 }
 

@@ -88,7 +88,7 @@ TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
         most += "P\r\n";
         pool.at(static_cast<std::size_t>(planet)) = static_cast<std::uint8_t>(planet);
         Game game;
-        TakePlanets(game, *ReadPlanetList(most));
+        SetPlanets(game, *ReadPlanetList(most));
         EXPECT_EQ(game.NumPlanets, planet + 1);
         EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, planet + 1);
         EXPECT_EQ(game.Player(NeutralOwner).PlanetList, pool);

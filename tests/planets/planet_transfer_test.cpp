@@ -11,7 +11,7 @@ namespace {
 /// Twenty planets of the pool.
 GameState GameOfTwentyPlanets() {
     GameState state;
-    TakePlanets(state.Game, std::vector<PlanetRecord>(20));
+    SetPlanets(state.Game, std::vector<PlanetRecord>(20));
     return state;
 }
 

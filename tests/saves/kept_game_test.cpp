@@ -252,7 +252,7 @@ private:
     }
     void Start() {
         state = {};
-        TakePlanets(state.Game, std::vector<PlanetRecord>(1));
+        SetPlanets(state.Game, std::vector<PlanetRecord>(1));
         history.emplace(state.Game);
         kept.emplace(state);
     }
