@@ -75,11 +75,6 @@ void CaptionLabel::AnnounceName() {
     }
 }
 
-QString CaptionLabel::ShownText() const {
-    Fit();
-    return shownText;
-}
-
 QString CaptionLabel::Explanation() const {
     return explanation ? QString::fromStdString(explanation()) : QString();
 }
@@ -144,7 +139,8 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 
 bool CaptionLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        QStringList lines{ShownText() == caption ? QString() : caption, Explanation()};
+        Fit();
+        QStringList lines{shownText == caption ? QString() : caption, Explanation()};
         lines.removeAll(QString());
         ShowPlainToolTip(*static_cast<QHelpEvent*>(event), lines.join('\n'), this);
         return true;
