@@ -85,7 +85,7 @@ void CaptionLabel::Fit() const {
         return;
     }
     fittedWidth = room;
-    // No letter is narrower than a pixel; what lies behind them cannot be seen.
+    // No letter is narrower than a pixel, so no more of them than pixels can be seen.
     const QString start = caption.left(room + 1);
     const int smallest = smallestText != 0 ? smallestText : font().pixelSize() - 2;
     shownFont = FittingFont(font(), smallest, start, room);

@@ -34,7 +34,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void TakeLineEdit();
+    void MakeLineEdit();
     /// Gives the text of a narrow box the room up to the arrow.
     void PlaceText();
     void FitText(const QString& text);
