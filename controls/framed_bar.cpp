@@ -10,7 +10,7 @@ FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* par
     setGeometry(place);
     setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // a right click opens the window's menu, not Qt's
-    // The wheel moves by pages, so a page is one step as well.
+    // A notch of the wheel moves no more than a page: here a single step.
     setSingleStep(1);
     setPageStep(1);
 }
