@@ -75,11 +75,6 @@ void CaptionLabel::AnnounceName() {
     }
 }
 
-QString CaptionLabel::ShownText() const {
-    Fit();
-    return shownText;
-}
-
 QString CaptionLabel::Explanation() const {
     return explanation ? QString::fromStdString(explanation()) : QString();
 }
@@ -90,7 +85,7 @@ void CaptionLabel::Fit() const {
         return;
     }
     fittedWidth = room;
-    // No letter is narrower than a pixel; what lies behind them cannot be seen.
+    // No letter is narrower than a pixel, so no more of them than pixels can be seen.
     const QString start = caption.left(room + 1);
     const int smallest = smallestText != 0 ? smallestText : font().pixelSize() - 2;
     shownFont = FittingFont(font(), smallest, start, room);
@@ -144,7 +139,8 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 
 bool CaptionLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        QStringList lines{ShownText() == caption ? QString() : caption, Explanation()};
+        Fit();
+        QStringList lines{shownText == caption ? QString() : caption, Explanation()};
         lines.removeAll(QString());
         ShowPlainToolTip(*static_cast<QHelpEvent*>(event), lines.join('\n'), this);
         return true;

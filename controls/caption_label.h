@@ -28,8 +28,6 @@ public:
     void SetCaption(const QString& text);
     /// The whole caption, also where less of it is drawn.
     const QString& Caption() const { return caption; }
-    /// The caption as it is drawn.
-    QString ShownText() const;
 
     void SetAlignment(Qt::Alignment edges);
     /// Lets a caption shrink down to this size before less than all of it is drawn.

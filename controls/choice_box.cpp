@@ -14,7 +14,7 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     : QComboBox(parent), emptyCaption(std::move(caption)) {
     setObjectName(objectName);
     setInsertPolicy(NoInsert);
-    TakeLineEdit();
+    MakeLineEdit();
     // Not a shared model: setting one makes the whole drop-down list at once.
     addItems(entries);
     // A combo box would take a typed text that equals an entry for a choice.
@@ -26,9 +26,9 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     RestoreChoice(-1);
 }
 
-void ChoiceBox::TakeLineEdit() {
+void ChoiceBox::MakeLineEdit() {
     auto* edit = new QLineEdit(this);
-    // A combo box makes a completer, which costs more than itself, for an edit that has none.
+    // A combo box gives an edit without a completer one, which costs more than the box itself.
     QCompleter none;
     edit->setCompleter(&none);
     setLineEdit(edit);

@@ -36,7 +36,7 @@ protected:
 private:
     /// Shows the choice in place of what was typed.
     void RestoreChoice(int index);
-    void TakeLineEdit();
+    void MakeLineEdit();
     /// Gives the text of a narrow box the room up to the arrow.
     void PlaceText();
     void FitText(const QString& text);

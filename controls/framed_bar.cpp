@@ -10,7 +10,7 @@ FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* par
     setGeometry(place);
     setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // a right click opens the window's menu, not Qt's
-    // Both steps of one, so that the wheel too goes step by step.
+    // A notch of the wheel moves no more than a page: here a single step.
     setSingleStep(1);
     setPageStep(1);
 }

@@ -109,8 +109,10 @@ AboutForm::AboutForm(QWidget* owner)
     Form_Load();
 }
 
+// Its frame is not known before it is shown, but as thick as the owner's.
 void AboutForm::Form_Load() {
-    CentreOverOwner();
+    const QSize spare = parentWidget()->size() - size();
+    PlaceFromOwner({spare.width() / 2, spare.height() / 2});
 }
 
 void AboutForm::Command1_Click() {

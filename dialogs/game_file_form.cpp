@@ -27,8 +27,8 @@ constexpr QSize ListRow{0, 14};
 constexpr auto Extension = ".ksm";
 constexpr auto DefaultName = "savegame.ksm";
 
-// Hidden files too: one can be called just ".ksm". Only the extension in small letters, since a
-// name with any other would be completed to that of another file.
+// Hidden files too, since a file may be called just ".ksm". The extension counts in small letters
+// only: "A.KSM" would be completed to "A.KSM.ksm".
 QStringList GameFiles() {
     return QDir().entryList({QString("*") + Extension},
                             QDir::Files | QDir::Hidden | QDir::CaseSensitive,

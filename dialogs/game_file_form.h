@@ -11,7 +11,7 @@ class QListWidget;
 
 namespace ksm {
 
-/// Wherein the two dialogs differ; places in pixels of the client area.
+/// What differs between the two dialogs; places are pixels of the client area.
 struct GameFileDesign {
     const char* FormName = "";
     const char* Title = "";
