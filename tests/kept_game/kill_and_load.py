@@ -1,8 +1,8 @@
 """Kills programs that play one after another in one folder, and looks at the games they kept.
 
-Usage: kill_and_load.py PROGRAM KILLS, where the program plays at random. After each kill the running
-game must be kept as it was after the last change that was done, or after the one that was just
-being done, and the three games that were started last as they were played last.
+Usage: kill_and_load.py PROGRAM KILLS, where the program plays at random. After each kill the
+running game must be kept as it was after the last change that was done, or after the one that was
+just being done, and the three games that were started last as they were played last.
 """
 
 import collections
