@@ -26,7 +26,7 @@ enum class TechField : std::uint8_t { Green, Yellow, Blue, Red };
 
 enum class TechRule : std::uint8_t { AnyOf, AllOf };
 
-struct Technology {
+struct TechBox {
     std::string_view Name;
     TechField Field = TechField::Green;
     Point Place; ///< top left corner of the box
@@ -56,7 +56,7 @@ struct ChartMark {
 /// Connectors straight down are black; what leaves to the side has the colour of the field it comes
 /// from (orange for yellow). Later elements are drawn over earlier ones, and `Line1` last.
 struct TechChart {
-    std::vector<Technology> Label1;
+    std::vector<TechBox> Label1;
     std::vector<Connector> Line1;
     std::vector<Connector> Line4;
     std::vector<Connector> Line5;

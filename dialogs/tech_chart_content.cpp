@@ -137,7 +137,7 @@ void AddColumnLine(TechChart& chart, const Rows& rows, const BoxDesign& box) {
     chart.Marks.push_back({MarkShape::ArrowDown, to, colour::Black});
 }
 
-Technology BoxOf(const BoxDesign& box, const Rows& rows) {
+TechBox BoxOf(const BoxDesign& box, const Rows& rows) {
     return {.Name = box.Name,
             .Field = box.Field,
             .Place = {box.Left.value_or(LeftOf(box.Field)), rows.Top(box.Row)},

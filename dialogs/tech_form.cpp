@@ -27,7 +27,7 @@ QString ToQString(std::string_view name) {
 }
 
 /// What the lines that enter a box tell the eye.
-QString Requirement(const Technology& technology, const TechChart& chart) {
+QString Requirement(const TechBox& technology, const TechChart& chart) {
     QStringList sources;
     for (const int source : technology.Sources) {
         sources << ToQString(chart.Label1.at(static_cast<std::size_t>(source)).Name);
@@ -38,7 +38,7 @@ QString Requirement(const Technology& technology, const TechChart& chart) {
     return "needs " + sources.join(technology.Rule == TechRule::AllOf ? " and " : " or ");
 }
 
-QString AccessibleName(const Technology& technology, const TechChart& chart) {
+QString AccessibleName(const TechBox& technology, const TechChart& chart) {
     constexpr std::array fields{"green", "yellow", "blue", "red"};
     return QString("%1, %2, %3")
         .arg(ToQString(technology.Name),
@@ -47,7 +47,7 @@ QString AccessibleName(const Technology& technology, const TechChart& chart) {
 }
 
 void MakeBox(const TechChart& chart, int index, QWidget* parent) {
-    const Technology& technology = chart.Label1.at(static_cast<std::size_t>(index));
+    const TechBox& technology = chart.Label1.at(static_cast<std::size_t>(index));
     auto* box = new QLabel(parent);
     box->setObjectName(ElementName("Label1", index));
     box->setGeometry({ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)});
