@@ -13,6 +13,15 @@ const std::string& Name(const Game& game, int player) {
     return game.Player(player).Name;
 }
 
+// The player clicked last is named first.
+std::string Message(const Game& game, int last, const char* joint, int first, const char* ending) {
+    return Name(game, last) + joint + Name(game, first) + ending;
+}
+
+std::string NotAllowed(const Game& game, int last, int first) {
+    return Message(game, last, " and ", first, " are not allowed to trade with eachother");
+}
+
 void BreakAgreement(Game& game, int one, int other) {
     game.Cell(one, other) = NoAgreement;
     game.Cell(other, one) = NoAgreement;
@@ -23,26 +32,16 @@ bool IsIndependencePair(const Game& game, int one, int other) {
            (one == game.IndepSecond && other == game.IndepFirst);
 }
 
-// The player clicked last is named first.
-std::string Message(const Game& game, int last, const char* joint, int first, const char* ending) {
-    return Name(game, last) + joint + Name(game, first) + ending;
-}
-
 void PickFirst(Game& game, int player, const char* ending, TradeMode next) {
     game.TradeInfo = Name(game, player) + ending;
-    game.TradeFirst = player;
     game.TradeMode = next;
+    (next == TradeMode::IndependenceSecond ? game.IndepFirst : game.TradeFirst) = player;
 }
 
-bool PickAddPartner(Game& game, int player) {
-    const int first = game.TradeFirst;
-    if (player == first) {
-        return false;
-    }
+bool MakeAgreement(Game& game, int first, int player) {
     game.TradeMode = TradeMode::Idle;
     if (IsIndependencePair(game, player, first)) {
-        game.TradeInfo =
-            Message(game, player, " and ", first, " are not allowed to trade with eachother");
+        game.TradeInfo = NotAllowed(game, player, first);
         return false;
     }
     if (HaveAgreement(game, first, player)) {
@@ -55,11 +54,7 @@ bool PickAddPartner(Game& game, int player) {
     return true;
 }
 
-bool PickRemovePartner(Game& game, int player) {
-    const int first = game.TradeFirst;
-    if (player == first) {
-        return false;
-    }
+bool EndAgreement(Game& game, int first, int player) {
     game.TradeMode = TradeMode::Idle;
     if (!HaveAgreement(game, first, player)) {
         game.TradeInfo = Message(game, player, " & ", first, " don't have a TA to break");
@@ -71,19 +66,15 @@ bool PickRemovePartner(Game& game, int player) {
     return true;
 }
 
-bool PickIndependenceSecond(Game& game, int player) {
-    const int first = game.IndepFirst;
-    game.TradeInfo =
-        Message(game, player, " and ", first, " are not allowed to trade with eachother");
-    // Dissolving the law in the middle of the choice leaves no first player.
-    const bool breaks = HaveAgreement(game, first, player);
-    if (breaks) {
-        BreakAgreement(game, first, player);
-    }
-    game.IndepSecond = player;
+// Dissolving the law in the middle of the choice leaves no first player.
+bool ForbidToTrade(Game& game, int first, int player) {
     game.TradeMode = TradeMode::Idle;
+    game.TradeInfo = NotAllowed(game, player, first);
+    const bool traded = HaveAgreement(game, first, player);
+    BreakAgreement(game, first, player);
+    game.IndepSecond = player;
     RedrawTradeDiagram(game);
-    return breaks;
+    return traded;
 }
 
 } // namespace
@@ -96,38 +87,34 @@ void BeginAdding(Game& game) {
 }
 
 void BeginRemoving(Game& game) {
-    if (game.TradeMode != TradeMode::Idle) {
-        return;
-    }
-    if (game.TradeCount == 0) {
+    if (game.TradeMode == TradeMode::Idle && game.TradeCount == 0) {
         game.TradeInfo = "There are no Trade Agreements to remove.";
-        return;
+    } else if (game.TradeMode == TradeMode::Idle) {
+        game.TradeMode = TradeMode::RemoveFirst;
+        game.TradeInfo = SelectFirstPlayer;
     }
-    game.TradeMode = TradeMode::RemoveFirst;
-    game.TradeInfo = SelectFirstPlayer;
 }
 
 bool PickPlayer(Game& game, int player) {
+    const bool isPartner = player != game.TradeFirst;
     switch (game.TradeMode) {
     case TradeMode::Idle:
-        return false;
+        break;
     case TradeMode::AddFirst:
         PickFirst(game, player, " makes Trade Agreement with...", TradeMode::AddPartner);
-        return false;
+        break;
     case TradeMode::AddPartner:
-        return PickAddPartner(game, player);
+        return isPartner && MakeAgreement(game, game.TradeFirst, player);
     case TradeMode::RemoveFirst:
         PickFirst(game, player, " breaks Trade Agreement with...", TradeMode::RemovePartner);
-        return false;
+        break;
     case TradeMode::RemovePartner:
-        return PickRemovePartner(game, player);
+        return isPartner && EndAgreement(game, game.TradeFirst, player);
     case TradeMode::IndependenceFirst:
-        game.TradeInfo = Name(game, player) + " is not allowed to trade with...";
-        game.IndepFirst = player;
-        game.TradeMode = TradeMode::IndependenceSecond;
-        return false;
+        PickFirst(game, player, " is not allowed to trade with...", TradeMode::IndependenceSecond);
+        break;
     case TradeMode::IndependenceSecond:
-        return PickIndependenceSecond(game, player);
+        return ForbidToTrade(game, game.IndepFirst, player);
     }
     return false;
 }
