@@ -2,6 +2,7 @@
 
 #include "app/korvane.h"
 #include "app/main_menu.h"
+#include "controls/caption_label.h"
 #include "controls/message_box.h"
 #include "controls/twips.h"
 #include "dialogs/about_form.h"

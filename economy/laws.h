@@ -6,8 +6,13 @@
 namespace ksm {
 
 /// The figures follow with the next UpdateValues.
-void ToggleLabourUnion(Game& game);
+inline void ToggleLabourUnion(Game& game) {
+    game.Laws.LabourUnion = !game.Laws.LabourUnion;
+}
+
 /// The order of play follows with the next TurnOrder.
-void ToggleOrlenHouseRules(Game& game);
+inline void ToggleOrlenHouseRules(Game& game) {
+    game.Laws.OrlenHouseRules = !game.Laws.OrlenHouseRules;
+}
 
 } // namespace ksm

@@ -188,14 +188,6 @@ void PlayerColumn::ShowValues() {
     Micro->setEnabled(Record().MicroEnabled);
 }
 
-QWidget* PlayerColumn::Name() const {
-    return PlayerName;
-}
-
-QWidget* PlayerColumn::Docks() const {
-    return DockScroll;
-}
-
 QWidgetList PlayerColumn::PlayerControls() const {
     QWidgetList controls{PlayerName, StatLine, RaceLabel,   SpaceDocks,
                          DockScroll, Enviro,   PellamTools, Micro};
@@ -235,16 +227,16 @@ void PlayerColumn::Enviro_Click(bool checked) {
 }
 
 void PlayerColumn::PellamTools_Click(bool checked) {
-    if (checked != Record().PellamTools) {
-        Record().PellamTools = checked;
-        Recompute(game);
-        emit Changed();
-    }
+    Tick(Record().PellamTools, checked);
 }
 
 void PlayerColumn::Micro_Click(bool checked) {
-    if (checked != Record().Micro) {
-        Record().Micro = checked;
+    Tick(Record().Micro, checked);
+}
+
+void PlayerColumn::Tick(bool& owned, bool checked) {
+    if (checked != owned) {
+        owned = checked;
         Recompute(game);
         emit Changed();
     }

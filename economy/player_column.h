@@ -29,8 +29,8 @@ public:
     /// Shows a player in the game: the place of the column, and what stands in it.
     void ShowGame();
 
-    QWidget* Name() const;
-    QWidget* Docks() const;
+    CaptionLabel* Name() const { return PlayerName; }
+    SpinBar* Docks() const { return DockScroll; }
     /// What is seen while the player is in the game; the race box shows itself.
     QWidgetList PlayerControls() const;
 
@@ -54,6 +54,7 @@ private:
     void Enviro_Click(bool checked);
     void PellamTools_Click(bool checked);
     void Micro_Click(bool checked);
+    void Tick(bool& owned, bool checked);
     void ShowPlace();
     void ShowPlayer();
     void ShowValues();

@@ -2,6 +2,7 @@
 
 #include "controls/caption_label.h"
 #include "controls/focus_group.h"
+#include "controls/spin_bar.h"
 #include "model/technology.h"
 
 namespace ksm {

@@ -1,11 +1,15 @@
 // What follows from a change of an input.
 #pragma once
 
-#include "model/game_state.h"
+#include "economy/turn_order.h"
+#include "economy/value_update.h"
 
 namespace ksm {
 
 /// Recomputes every derived figure, then ranks the players by them.
-void Recompute(Game& game);
+inline void Recompute(Game& game) {
+    UpdateValues(game);
+    TurnOrder(game);
+}
 
 } // namespace ksm
