@@ -1,6 +1,7 @@
 #include "saves/kept_files.h"
 
 #include "saves/game_file.h"
+#include "saves/system.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -32,14 +33,6 @@ Outcome<std::int64_t> StartOf(const char* name) {
     return game->Game.StartTime;
 }
 
-Outcome<> Rename(const std::string& from, const std::string& to) {
-    std::error_code error;
-    fs::rename(from, to, error);
-    return error
-               ? Failure{'"' + from + "\" cannot be renamed to \"" + to + "\": " + error.message()}
-               : Outcome();
-}
-
 } // namespace
 
 KeptFiles::KeptFiles(std::int64_t start) : running(start) {
@@ -69,8 +62,10 @@ Outcome<> KeptFiles::MakeRoom() {
         if (type != fs::file_type::regular && type != fs::file_type::symlink) {
             return Failure{starts[place - 1].Reason()};
         }
-        if (Outcome<> renamed = Rename(name, KeptGameNames[place]); !renamed) {
-            return renamed;
+        const char* next = KeptGameNames[place];
+        if (const Outcome<> renamed = Rename(name, next); !renamed) {
+            return Failure{std::string("\"") + name + "\" cannot be renamed to \"" + next +
+                           "\": " + renamed.Reason()};
         }
         starts[place] = starts[place - 1];
     }

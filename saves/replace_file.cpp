@@ -26,12 +26,6 @@ fs::path UnfinishedBeside(const fs::path& path, const char* ending) {
     return path.parent_path() / (LeftoverBeginning() + std::to_string(getpid()) + ending);
 }
 
-Outcome<> Rename(const fs::path& from, const fs::path& to) {
-    std::error_code error;
-    fs::rename(from, to, error);
-    return error ? Failure{error.message()} : Outcome();
-}
-
 // A second name for the same file would be cheaper, but not every file system has them, and not
 // every folder lets one be taken back.
 Outcome<> Copy(const fs::path& path, const fs::path& copy) {

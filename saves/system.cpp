@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
 #include <system_error>
 #include <unistd.h>
@@ -64,6 +65,10 @@ Outcome<> Sync(const std::filesystem::path& path) {
     Outcome<> done = Sync(file);
     close(file);
     return done;
+}
+
+Outcome<> Rename(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return rename(from.c_str(), to.c_str()) == 0 ? Outcome() : LastFailure();
 }
 
 bool IsRunning(unsigned process) {

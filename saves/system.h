@@ -21,6 +21,9 @@ Outcome<> WriteNewFile(const std::filesystem::path& path, std::string_view conte
 /// Waits until a file's content, or the names in a folder, are on the disk.
 Outcome<> Sync(const std::filesystem::path& path);
 
+/// Renames a file; one that has the new name already is replaced.
+Outcome<> Rename(const std::filesystem::path& from, const std::filesystem::path& to);
+
 /// Whether a process of this number runs on this computer, whoever started it.
 bool IsRunning(unsigned process);
 

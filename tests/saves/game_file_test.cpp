@@ -76,12 +76,13 @@ TEST_F(GameFile, RemovesOnlyWhatDeadProcessesLeft) {
     const QString begin = ".ksm-" + QSysInfo::machineHostName() + '-';
     const QStringList dead{begin + "999999999.tmp", begin + "999999998-old.tmp"};
     for (const QString& name :
-         dead + QStringList{begin + "1-old.tmp", begin + "x.tmp", ".ksm-elsewhere-999999999.tmp"}) {
+         dead + QStringList{begin + "1-old.tmp", begin + "x.tmp", begin + "999999999-1.tmp",
+                            ".ksm-elsewhere-999999999.tmp"}) {
         QFile(name).open(QIODevice::WriteOnly);
     }
     ASSERT_TRUE(SaveGameFile("a.ksm", SampleGame()));
     EXPECT_FALSE(QFileInfo::exists(dead[0]) || QFileInfo::exists(dead[1]));
-    EXPECT_EQ(Files().size(), 4);
+    EXPECT_EQ(Files().size(), 5);
 }
 
 TEST_F(GameFile, IsSavedOnlyWhenTheSystemSaysSo) {
