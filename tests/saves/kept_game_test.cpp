@@ -95,7 +95,7 @@ const Move Moves[]{
     {{}, 0, "0----"},
     {{1}, 0, "01---"},    // a new program moves the evening before
     {{0, 1}, 0, "01---"}, // a game that was never started pushes out none that was
-    {{1}, 1, "1----"},    // a game that goes on replaces itself
+    {{2, 1}, 2, "21---"}, // a game that goes on replaces itself
     {{2, 1}, 1, "12---"}, // also when another one was played since
     {{1, 3, 2}, 2, "213--"},
     {{4, 3, 2, 1}, 0, "04321"},    // all names are taken
@@ -140,7 +140,7 @@ TEST_F(KeptGames, WhatStandsInTheWayIsNamedAndStays) {
                        "Input/output error");
     EXPECT_EQ(Starts(), "43--?");
     EXPECT_NE(Keep(0, std::string(LargestFile, 'n')).find("Shorten the notes."), std::string::npos);
-    EXPECT_EQ(Keep(0), "") << "what failed is tried again";
+    EXPECT_EQ(Keep(0), "");
     EXPECT_EQ(Starts(), "043-?");
 }
 
@@ -154,6 +154,10 @@ TEST_F(KeptGames, AreNotWrittenOverThoseOfAnotherProgram) {
     EXPECT_EQ(NotesIn(KeptGameName) + NotesIn("autosave-1.ksm"), "otherone");
     other.Keep(GameOf(2, "other again"));
     EXPECT_EQ(NotesIn(KeptGameName), "other again");
+    QFile::remove(KeptGameName);
+    one.Keep(GameOf(1, "one again"));
+    EXPECT_TRUE(one.LastOutcome());
+    EXPECT_EQ(NotesIn(KeptGameName), "one again") << "what failed is tried again";
 }
 
 TEST_F(KeptGames, LinksAreNotFollowed) {
