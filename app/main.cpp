@@ -19,7 +19,6 @@ namespace {
 /// Reads the planet list beside the program; says what is wrong with it and returns false if
 /// anything is.
 bool LoadPlanetList(ksm::GameState& state) {
-    const std::filesystem::path path = ksm::ProgramFolder() / ksm::PlanetListName;
     const auto list = ksm::ReadPlanetListFile(ksm::ProgramFolder() / ksm::PlanetListName);
     if (!list) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
