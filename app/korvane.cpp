@@ -8,14 +8,15 @@
 #include "economy/game_setup.h"
 #include "economy/laws.h"
 #include "economy/player_table.h"
+#include "economy/recompute.h"
 #include "economy/turn_order.h"
 #include "economy/turn_order_table.h"
-#include "economy/value_update.h"
 #include "planets/planet_board.h"
 #include "trade/trade_laws.h"
 #include "trade/trade_panel.h"
 
 #include <QAbstractButton>
+#include <QDateTime>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -46,10 +47,10 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                Qt::WindowCloseButtonHint),
-      state(game), history(game), kept(keeper) {
+      state(game), history(game.Game), kept(keeper) {
     setObjectName("Korvane");
     setWindowTitle(ProgramTitle);
-    menu = new MainMenu(this);
+    menu = new MainMenu(state.Game, this);
     setMenuBar(menu);
     client = new ClientArea(this);
     client->setFixedSize(ClientSize);
@@ -59,7 +60,6 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
     MakePanels();
     ConnectPanels();
     ConnectMenu();
-    ConnectTradeLaws();
     ConnectSteps();
     CentreOnScreen();
     ShowGame();
@@ -72,12 +72,17 @@ Korvane::~Korvane() {
 
 void Korvane::MakePanels() {
     // The order of the Tab key.
-    setup = new SetupPanel(state, client);
-    table = new PlayerTable(state, client);
-    summary = new TurnOrderTable(state, client);
+    setup = new SetupPanel(state.Game, client);
+    table = new PlayerTable(state.Game, client);
+    summary = new TurnOrderTable(state.Game, client);
     board = new PlanetBoard(state, client);
-    trade = new TradePanel(state, client);
+    trade = new TradePanel(state.Game, client);
     setup->raise();
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        playerControls[player] = summary->PlayerControls(player) + board->PlayerControls(player) +
+                                 trade->PlayerControls(player) +
+                                 table->Column(player).PlayerControls();
+    }
     // The focus starts on no control, and a click on the background takes it away from one.
     client->setFocusPolicy(Qt::ClickFocus);
     client->setAccessibleName("Player table");
@@ -85,10 +90,6 @@ void Korvane::MakePanels() {
 }
 
 void Korvane::ConnectPanels() {
-    connect(table, &PlayerTable::InputChanged, this, &Korvane::UpdateValues);
-    connect(board, &PlanetBoard::InputChanged, this, &Korvane::UpdateValues);
-    connect(trade, &TradePanel::InputChanged, this, &Korvane::UpdateValues);
-    connect(setup, &SetupPanel::PlayerCountChanged, this, &Korvane::LayoutForPlayerCount);
     connect(table, &PlayerTable::Changed, this, &Korvane::Changed);
     connect(board, &PlanetBoard::Changed, this, &Korvane::Changed);
     connect(trade, &TradePanel::Changed, this, &Korvane::Changed);
@@ -98,102 +99,64 @@ void Korvane::ConnectPanels() {
 }
 
 void Korvane::ConnectMenu() {
-    connect(menu->LGame, &QAction::triggered, this, &Korvane::LGame_Click);
-    connect(menu->SGame, &QAction::triggered, this, &Korvane::SGame_Click);
-    connect(menu->Quit, &QAction::triggered, this, &Korvane::Quit_Click);
-    connect(menu->MenuOrlen, &QAction::triggered, this, &Korvane::MenuOrlen_Click);
-    connect(menu->Notes, &QAction::triggered, this, &Korvane::Notes_Click);
-    connect(menu->Dice, &QAction::triggered, this, &Korvane::Dice_Click);
-    connect(menu->Stech, &QAction::triggered, this, &Korvane::Stech_Click);
-    connect(menu->HTech, &QAction::triggered, this, &Korvane::HTech_Click);
-    connect(menu->MenuTechMod, &QAction::triggered, this, &Korvane::MenuTechMod_Click);
-    connect(menu->MenuLabour, &QAction::triggered, this, &Korvane::MenuLabour_Click);
-    connect(menu->About, &QAction::triggered, this, &Korvane::About_Click);
-}
-
-void Korvane::ConnectTradeLaws() {
-    const auto connectLaw = [this](QAction* item, TradeOutcome (*click)(Game&)) {
-        connect(item, &QAction::triggered, this, [this, click] {
-            const TradeOutcome outcome = click(state);
-            menu->ShowLaws(state.Laws);
-            trade->Apply(outcome); // which announces the change
-        });
-    };
-    connectLaw(menu->Tres, Tres_Click);
-    connectLaw(menu->TFree, TFree_Click);
-    connectLaw(menu->TRestr, TRestr_Click);
-    connectLaw(menu->TStop, TStop_Click);
+    const std::pair<const char*, void (Korvane::*)()> handlers[]{
+        {"LGame", &Korvane::LGame_Click},
+        {"SGame", &Korvane::SGame_Click},
+        {"Quit", &Korvane::Quit_Click},
+        {"MenuOrlen", &Korvane::MenuOrlen_Click},
+        {"Notes", &Korvane::Notes_Click},
+        {"Dice", &Korvane::Dice_Click},
+        {"Stech", &Korvane::Stech_Click},
+        {"HTech", &Korvane::HTech_Click},
+        {"MenuTechMod", &Korvane::MenuTechMod_Click},
+        {"MenuLabour", &Korvane::MenuLabour_Click},
+        {"Tres", &Korvane::Tres_Click},
+        {"TFree", &Korvane::TFree_Click},
+        {"TRestr", &Korvane::TRestr_Click},
+        {"TStop", &Korvane::TStop_Click},
+        {"About", &Korvane::About_Click}};
+    for (const auto& [item, handler] : handlers) {
+        connect(menu->findChild<QAction*>(item), &QAction::triggered, this, handler);
+    }
 }
 
 void Korvane::UpdateValues() {
-    ksm::UpdateValues(state);
-    table->ShowValues();
-    trade->ShowValues();
-    TurnOrder();
+    Recompute(state.Game);
 }
 
 void Korvane::TurnOrder() {
-    ksm::TurnOrder(state);
-    summary->ShowTurnOrder();
+    ksm::TurnOrder(state.Game);
 }
 
 void Korvane::LayoutForPlayerCount() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        if (player > state.NumPlayers) {
-            HidePlayerControls(player);
-            continue;
-        }
-        board->PlaceOwner(player);
-        table->Column(player).Place();
-        trade->PlaceLabel(player);
-        ShowPlayerControls(player);
+        player > state.Game.NumPlayers ? HidePlayerControls(player) : ShowPlayerControls(player);
     }
 }
 
 void Korvane::ShowPlayerControls(int player) {
-    summary->SetRowVisible(player, true);
-    board->SetOwnerVisible(player, true);
-    trade->SetLabelVisible(player, true);
-    table->Column(player).SetVisible(true);
+    for (QWidget* control : playerControls[player]) {
+        control->show();
+    }
 }
 
 void Korvane::HidePlayerControls(int player) {
-    summary->SetRowVisible(player, false);
-    board->SetOwnerVisible(player, false);
-    trade->SetLabelVisible(player, false);
-    table->Column(player).SetVisible(false);
-}
-
-void Korvane::ShowPlayer(int player) {
-    table->Column(player).ShowPlayer();
-    board->ShowPlayer(player);
-    trade->ShowPlayer(player);
-}
-
-void Korvane::ShowPhase() {
-    setup->setVisible(!state.Started);
-    table->ShowPhase();
-    // The setup panel covers them; the focus must not get below it.
-    summary->setEnabled(state.Started);
-    board->setEnabled(state.Started);
+    for (QWidget* control : playerControls[player]) {
+        control->hide();
+    }
 }
 
 void Korvane::ShowGame() {
     const QWidget* focused = focusWidget();
+    menu->ShowGame();
     setup->ShowGame();
+    table->ShowGame();
+    summary->ShowGame();
     board->ShowGame();
+    trade->ShowGame();
+    // Each stands in its place by now.
     LayoutForPlayerCount();
-    ShowPhase();
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        ShowPlayer(player);
-    }
-    table->ShowValues();
-    trade->ShowValues();
-    trade->ShowInfo();
-    trade->ShowDiagram();
-    summary->ShowTurnOrder();
-    menu->ShowLaws(state.Laws);
-    if (auto* notes = findChild<NoteForm*>()) {
+    if (auto* notes = findChild<NoteForm*>(QString(), Qt::FindDirectChildrenOnly)) {
         notes->ShowNotes();
     }
     if (focusWidget() != focused) {
@@ -202,34 +165,47 @@ void Korvane::ShowGame() {
     }
 }
 
-void Korvane::TakeGame(const GameState& loaded) {
-    state = loaded;
-    ShowGame();
-    emit Changed();
-}
-
 void Korvane::StartGameButton_Click() {
-    StartGame(state);
-    client->setFocus(); // the button goes
-    ShowPhase();
+    StartGame(state.Game, QDateTime::currentMSecsSinceEpoch());
     UpdateValues();
     TurnOrder();
-    history.Restart(state);
+    history.Restart(state.Game);
     emit Changed();
 }
 
 void Korvane::MenuOrlen_Click() {
-    ksm::MenuOrlen_Click(state);
-    menu->ShowLaws(state.Laws);
+    ToggleOrlenHouseRules(state.Game);
     TurnOrder();
     emit Changed();
 }
 
 void Korvane::MenuLabour_Click() {
-    ksm::MenuLabour_Click(state);
-    menu->ShowLaws(state.Laws);
+    ToggleLabourUnion(state.Game);
     UpdateValues();
     TurnOrder();
+    emit Changed();
+}
+
+void Korvane::Tres_Click() {
+    ToggleEconomicIndependence(state.Game);
+    emit Changed();
+}
+
+void Korvane::TFree_Click() {
+    ToggleFreeTrade(state.Game);
+    UpdateValues();
+    emit Changed();
+}
+
+void Korvane::TRestr_Click() {
+    ToggleTradeRestrictions(state.Game);
+    UpdateValues();
+    emit Changed();
+}
+
+void Korvane::TStop_Click() {
+    StopTrade(state.Game);
+    UpdateValues();
     emit Changed();
 }
 

@@ -3,8 +3,11 @@
 
 #include "model/game_state.h"
 #include "model/history.h"
+#include "model/per_player.h"
 
 #include <QMainWindow>
+
+class QMenu;
 
 namespace ksm {
 
@@ -15,10 +18,9 @@ class PlayerTable;
 class SetupPanel;
 class TradePanel;
 class TurnOrderTable;
-struct TradeOutcome;
 
-/// Knows all panels, which do not know one another: an input changes in one of them, the rules
-/// recompute everything, every panel shows it, and the change is announced.
+/// Knows all panels, which do not know one another: a handler of one of them changes an input and
+/// has the rules recompute what follows; then every panel shows the whole game.
 class Korvane : public QMainWindow {
     Q_OBJECT
 
@@ -32,24 +34,24 @@ public:
     /// focus stays where it is unless its control is gone.
     void ShowGame();
 
-    /// Recomputes every derived figure and shows it, and ranks the players.
+    /// Recomputes every derived figure, and ranks the players.
     void UpdateValues();
     /// Ranks the players by the figures last computed.
     void TurnOrder();
 
     // What is added to every cost of a colour, plus 15: 0..30. Writing has no other effect.
-    std::int16_t GreenModifier() const { return state.GreenModifier; }
-    void SetGreenModifier(std::int16_t modifier) { state.GreenModifier = modifier; }
-    std::int16_t BlueModifier() const { return state.BlueModifier; }
-    void SetBlueModifier(std::int16_t modifier) { state.BlueModifier = modifier; }
-    std::int16_t YellowModifier() const { return state.YellowModifier; }
-    void SetYellowModifier(std::int16_t modifier) { state.YellowModifier = modifier; }
-    std::int16_t RedModifier() const { return state.RedModifier; }
-    void SetRedModifier(std::int16_t modifier) { state.RedModifier = modifier; }
+    std::int16_t GreenModifier() const { return state.Game.GreenModifier; }
+    void SetGreenModifier(std::int16_t modifier) { state.Game.GreenModifier = modifier; }
+    std::int16_t BlueModifier() const { return state.Game.BlueModifier; }
+    void SetBlueModifier(std::int16_t modifier) { state.Game.BlueModifier = modifier; }
+    std::int16_t YellowModifier() const { return state.Game.YellowModifier; }
+    void SetYellowModifier(std::int16_t modifier) { state.Game.YellowModifier = modifier; }
+    std::int16_t RedModifier() const { return state.Game.RedModifier; }
+    void SetRedModifier(std::int16_t modifier) { state.Game.RedModifier = modifier; }
 
 signals:
     /// The user did something, and the state is whole again. Everything that changes the state ends
-    /// here, once for each thing done.
+    /// here, once for each thing done: the game is shown, recorded and kept.
     void Changed();
 
 protected:
@@ -64,17 +66,12 @@ private:
     void MakePanels();
     void ConnectPanels();
     void ConnectMenu();
-    void ConnectTradeLaws();
     void ConnectSteps();
     void CentreOnScreen();
 
     void LayoutForPlayerCount();
     void ShowPlayerControls(int player);
     void HidePlayerControls(int player);
-    void ShowPlayer(int player);
-    /// Shows the controls of the phase: the setup panel and the race boxes until "START", from
-    /// then on the summary table and the planet board below them.
-    void ShowPhase();
 
     void LGame_Click();
     void SGame_Click();
@@ -85,14 +82,17 @@ private:
     void MenuTechMod_Click();
     void About_Click();
     void SetModifier(int colour, int modifier);
-    void TakeGame(const GameState& loaded);
+    void LoadForm_GameLoaded(const GameState& loaded);
     void NameConfirmed();
 
-    void Keep();
+    void ShowAndKeep();
     void Undo();
     void Redo();
-    /// Puts a game in force that was played before.
-    void Return(const Game& game);
+    void TakeBack(int count);
+    /// Lists the last steps; the game returns to the one that is chosen.
+    void AddTakeBackTo(QMenu* steps);
+    /// The state became a game that was played before.
+    void Returned();
     /// All that happens until the window closes is one step.
     void MakeOneStepOf(QWidget* window);
 
@@ -100,6 +100,10 @@ private:
     void StartGameButton_Click();
     void MenuOrlen_Click();
     void MenuLabour_Click();
+    void Tres_Click();
+    void TFree_Click();
+    void TRestr_Click();
+    void TStop_Click();
     void Quit_Click();
     void Form_Unload();
 
@@ -113,6 +117,7 @@ private:
     PlayerTable* table = nullptr;
     PlanetBoard* board = nullptr;
     TradePanel* trade = nullptr;
+    PerPlayer<QWidgetList> playerControls; ///< what is seen while the player is in the game
     bool placed = false; ///< whether the window stands where it belongs, its frame counted
 };
 

@@ -9,18 +9,24 @@
 #include <QMenu>
 #include <QShortcut>
 
+#include <utility>
+
 namespace ksm {
 
 namespace {
 
+/// A step as it stands in a menu.
+QString Shown(const QMenu* menu, const std::string& step) {
+    constexpr int LongestStep = 300;
+    const QFontMetrics metrics(menu->font());
+    QString text = metrics.elidedText(QString::fromStdString(step), Qt::ElideRight, LongestStep);
+    // A name may hold the sign for an underlined letter.
+    return text.replace('&', "&&");
+}
+
 /// "Undo Pellam Tools, Dora", with the key behind it; greyed where there is nothing.
 QAction* AddStep(QMenu* menu, const QString& verb, const std::string& step, const char* key) {
-    const QFontMetrics metrics(menu->font());
-    constexpr int LongestStep = 300;
-    const QString what =
-        metrics.elidedText(QString::fromStdString(step), Qt::ElideRight, LongestStep);
-    // A name may hold the sign for an underlined letter.
-    const QString text = (verb + ' ' + what).trimmed().replace('&', "&&");
+    const QString text = (verb + ' ' + Shown(menu, step)).trimmed();
     QAction* item = menu->addAction(text + '\t' + key);
     item->setEnabled(!step.empty());
     return item;
@@ -29,21 +35,22 @@ QAction* AddStep(QMenu* menu, const QString& verb, const std::string& step, cons
 } // namespace
 
 void Korvane::ConnectSteps() {
-    connect(this, &Korvane::Changed, this, &Korvane::Keep);
+    connect(this, &Korvane::Changed, this, &Korvane::ShowAndKeep);
     for (const SpinBar* bar : findChildren<SpinBar*>()) {
         connect(bar, &SpinBar::HoldBegan, this, [this] { history.BeginStep(); });
+        connect(bar, &SpinBar::HoldResumed, this, [this] { history.ResumeStep(); });
         connect(bar, &SpinBar::HoldEnded, this, [this] { history.EndStep(); });
     }
-    connect(new QShortcut(QKeySequence("Ctrl+Z"), this), &QShortcut::activated, this,
-            &Korvane::Undo);
+    // Beside the main window, too, unless its window is a text that has steps of its own.
+    new QShortcut(QKeySequence("Ctrl+Z"), this, this, &Korvane::Undo, Qt::ApplicationShortcut);
     for (const char* key : {"Ctrl+Shift+Z", "Ctrl+Y"}) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this,
-                &Korvane::Redo);
+        new QShortcut(QKeySequence(key), this, this, &Korvane::Redo, Qt::ApplicationShortcut);
     }
 }
 
-void Korvane::Keep() {
-    history.Record(state);
+void Korvane::ShowAndKeep() {
+    ShowGame();
+    history.Record(state.Game);
     if (kept) {
         kept->Keep(state);
     }
@@ -54,22 +61,32 @@ void Korvane::MakeOneStepOf(QWidget* window) {
     connect(window, &QObject::destroyed, this, [this] { history.EndStep(); });
 }
 
+void Korvane::LoadForm_GameLoaded(const GameState& loaded) {
+    const std::string notesBefore = std::exchange(state, loaded).NotesText;
+    history.RecordLoad(state, notesBefore);
+    emit Changed();
+}
+
 void Korvane::Undo() {
-    if (history.CanUndo()) {
-        Return(history.Undo());
+    TakeBack(1);
+}
+
+void Korvane::TakeBack(int count) {
+    for (; count > 0 && history.CanUndo(); --count) {
+        history.Undo(state);
     }
+    Returned();
 }
 
 void Korvane::Redo() {
     if (history.CanRedo()) {
-        Return(history.Redo());
+        history.Redo(state);
+        Returned();
     }
 }
 
-void Korvane::Return(const Game& game) {
-    static_cast<Game&>(state) = game;
+void Korvane::Returned() {
     RelistBoard(state);
-    ShowGame();
     emit Changed();
 }
 
@@ -81,7 +98,22 @@ void Korvane::contextMenuEvent(QContextMenuEvent* event) {
             &Korvane::Undo);
     connect(AddStep(steps, "Redo", history.RedoText(), "Ctrl+Y"), &QAction::triggered, this,
             &Korvane::Redo);
+    AddTakeBackTo(steps);
     steps->popup(event->globalPos());
+}
+
+void Korvane::AddTakeBackTo(QMenu* steps) {
+    constexpr std::size_t Most = 10;
+    const std::vector<std::string> texts = history.UndoTexts(Most);
+    QMenu* list = steps->addMenu("Take Back To");
+    list->setEnabled(!texts.empty());
+    for (int after = 0; after < static_cast<int>(texts.size()); ++after) {
+        QAction* item = list->addAction(Shown(list, texts.at(static_cast<std::size_t>(after))));
+        // Where the game stands.
+        item->setCheckable(after == 0);
+        item->setChecked(after == 0);
+        connect(item, &QAction::triggered, this, [this, after] { TakeBack(after); });
+    }
 }
 
 } // namespace ksm

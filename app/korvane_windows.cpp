@@ -2,6 +2,7 @@
 
 #include "app/korvane.h"
 #include "app/main_menu.h"
+#include "controls/caption_label.h"
 #include "controls/message_box.h"
 #include "controls/twips.h"
 #include "dialogs/about_form.h"
@@ -13,6 +14,7 @@
 #include "dialogs/tech_form.h"
 #include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 
 #include <QApplication>
@@ -52,14 +54,14 @@ Form* OpenModal(QWidget* owner, Arguments&... arguments) {
 
 void Korvane::LGame_Click() {
     auto* form = OpenModal<LoadForm>(this);
-    connect(form, &LoadForm::GameLoaded, this, &Korvane::TakeGame);
+    connect(form, &LoadForm::GameLoaded, this, &Korvane::LoadForm_GameLoaded);
 }
 
 void Korvane::SGame_Click() {
-    if (kept && !kept->Problem().isEmpty()) {
+    if (kept && !kept->LastOutcome()) {
         ShowMessage(QMessageBox::Warning, ProgramTitle,
                     QString("The running game is not kept in \"%1\".").arg(KeptGameName),
-                    kept->Problem(), this);
+                    QString::fromStdString(kept->LastOutcome().Reason()), this);
     }
     OpenModal<SaveForm>(this, state);
 }
@@ -93,10 +95,10 @@ void Korvane::MenuTechMod_Click() {
 
 void Korvane::SetModifier(int colour, int modifier) {
     // In the order of the window's columns.
-    constexpr std::array setters{&Korvane::SetGreenModifier, &Korvane::SetBlueModifier,
-                                 &Korvane::SetRedModifier, &Korvane::SetYellowModifier};
-    const auto set = setters.at(static_cast<std::size_t>(colour));
-    (this->*set)(static_cast<std::int16_t>(modifier));
+    constexpr std::array modifiers{&Game::GreenModifier, &Game::BlueModifier, &Game::RedModifier,
+                                   &Game::YellowModifier};
+    state.Game.*modifiers.at(static_cast<std::size_t>(colour)) =
+        static_cast<std::int16_t>(modifier);
     UpdateValues();
     emit Changed();
 }
@@ -105,12 +107,11 @@ void Korvane::PlayerName_Click(int player) {
     state.View.EditedPlayer = player;
     auto* form = new ColorSelectForm(state, this);
     MakeOneStepOf(form);
-    connect(form, &ColorSelectForm::PlayerChanged, this, &Korvane::ShowPlayer);
     connect(form, &ColorSelectForm::Confirmed, this, &Korvane::NameConfirmed);
     form->Form_Load();
     // What loading changed belongs to the click.
     connect(form, &ColorSelectForm::Changed, this, &Korvane::Changed);
-    form->move(pos() + table->Column(player).NamePlace() + QPoint(0, FromTwips(1000)));
+    form->move(pos() + table->Column(player).Name()->pos() + QPoint(0, FromTwips(1000)));
     form->show();
     emit Changed();
 }

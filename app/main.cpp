@@ -9,7 +9,6 @@
 #include "controls/input_guard.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
-#include "controls/program_icon.h"
 #include "planets/planet_list_file.h"
 #include "saves/kept_game.h"
 
@@ -20,14 +19,13 @@ namespace {
 /// Reads the planet list beside the program; says what is wrong with it and returns false if
 /// anything is.
 bool LoadPlanetList(ksm::GameState& state) {
-    const std::filesystem::path path = ksm::ProgramFolder() / ksm::PlanetListName;
-    const ksm::PlanetListResult list = ksm::ReadPlanetListFile(path);
-    if (!list.Problems.empty()) {
+    const auto list = ksm::ReadPlanetListFile(ksm::ProgramFolder() / ksm::PlanetListName);
+    if (!list) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
-                         QString::fromStdString(ksm::DescribeProblems(path, list.Problems)));
+                         QString::fromStdString(list.Reason()));
         return false;
     }
-    ksm::TakePlanets(state, list.Planets);
+    ksm::SetPlanets(state.Game, *list);
     return true;
 }
 
@@ -51,7 +49,7 @@ int main(int argc, char* argv[]) {
     if (ksm::IsWayland()) {
         application.installEventFilter(&sizeGuard);
     }
-    QApplication::setWindowIcon(ksm::ProgramIcon());
+    QApplication::setWindowIcon(QIcon(":/ksm.svg"));
 
     const ksm::SingleInstance instance;
     if (instance.OtherIsRunning()) {
@@ -63,8 +61,7 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     ksm::KeptGame kept(state);
-    // Two programs must not keep their games in one file.
-    ksm::Korvane window(state, instance.HasLock() ? &kept : nullptr);
+    ksm::Korvane window(state, &kept);
     window.show();
     return QApplication::exec();
 }

@@ -4,102 +4,106 @@
 #include <QMenu>
 #include <QShortcut>
 
+#include <vector>
+
 namespace ksm {
 
 namespace {
 
-QAction* MakeItem(QMenu* menu, const char* name, const char* caption, const char* shortcut = "") {
-    QAction* item = menu->addAction(caption);
-    item->setObjectName(name);
-    item->setShortcut(QKeySequence(shortcut));
-    return item;
+enum class ItemKind {
+    Item,
+    Everywhere, ///< its key works in windows beside the main window, too
+    Greyed,     ///< has no action and never gets one
+    Separator
+};
+
+struct ItemDesign {
+    const char* Name = "";
+    const char* Caption = "";
+    const char* Shortcut = "";
+    ItemKind Kind = ItemKind::Item;
+    bool LawMarks::*Law = nullptr; ///< whose check mark it has
+};
+
+/// A menu, or an item on the bar where nothing is in it.
+struct MenuDesign {
+    const char* Name = "";
+    const char* Caption = "";
+    std::vector<ItemDesign> Items{};
+};
+
+std::vector<MenuDesign> Design() {
+    using enum ItemKind;
+    return {
+        {"File",
+         "&File",
+         {{"new", "New Game", "", Greyed},
+          {"x", "", "", Separator},
+          {"LGame", "Load Game", "F1", Everywhere},
+          {"SGame", "Save Game", "F2", Everywhere},
+          {"bar1", "", "", Separator},
+          {"LoadPlanButton", "Load Planet List", "", Greyed},
+          {"bar2", "", "", Separator},
+          {"Quit", "E&xit", "Ctrl+X"}}},
+        {"MenuOptions",
+         "&Options",
+         {{"MenuSound", "Sound", "Ctrl+S", Greyed},
+          {"MenuOrlen", "Orlen house rules", "", Item, &LawMarks::OrlenHouseRules}}},
+        {"Notes", "&Notes"},
+        {"Dice", "&Dice Roller"},
+        {"Techs",
+         "Tech",
+         {{"Stech", "Standard", "F5", Everywhere},
+          {"HTech", "Corrin's End", "F6", Everywhere},
+          {"Indent", "", "", Separator},
+          {"MenuTechMod", "Tech Modifiers"}}},
+        {"MenuLaws",
+         "&Laws",
+         {{"MenuLabour", "Labour Union", "", Item, &LawMarks::LabourUnion},
+          {"MenuStudies", "Subsidized Studies", "", Greyed}}},
+        {"Trad",
+         "&Trade",
+         {{"Tres", "Economic Independance", "", Item, &LawMarks::EconomicIndependence},
+          {"TFree", "Free Trade", "", Item, &LawMarks::FreeTrade},
+          {"TRestr", "Trade Restrictions", "", Item, &LawMarks::TradeRestrictions},
+          {"TStop", "Trade Stop"}}},
+        {"About", "&About"},
+    };
 }
 
-/// An item whose key works in windows beside the main window too.
-QAction* MakeEverywhere(QMenu* menu, const char* name, const char* caption, const char* shortcut) {
-    QAction* item = MakeItem(menu, name, caption, shortcut);
-    item->setShortcutContext(Qt::ApplicationShortcut);
+QAction* MakeItem(QMenu* menu, const ItemDesign& design) {
+    QAction* item =
+        design.Kind == ItemKind::Separator ? menu->addSeparator() : menu->addAction(design.Caption);
+    item->setObjectName(design.Name);
+    item->setShortcut(QKeySequence(design.Shortcut));
+    item->setEnabled(design.Kind != ItemKind::Greyed);
+    item->setCheckable(design.Law != nullptr);
+    if (design.Kind == ItemKind::Everywhere) {
+        item->setShortcutContext(Qt::ApplicationShortcut);
+    }
     return item;
-}
-
-QAction* MakeCheckItem(QMenu* menu, const char* name, const char* caption) {
-    QAction* item = MakeItem(menu, name, caption);
-    item->setCheckable(true);
-    return item;
-}
-
-void MakeSeparator(QMenu* menu, const char* name) {
-    menu->addSeparator()->setObjectName(name);
 }
 
 } // namespace
 
-MainMenu::MainMenu(QWidget* parent) : QMenuBar(parent) {
-    MakeFileMenu();
-    MakeOptionsMenu();
-    Notes = MakeBarItem("Notes", "&Notes");
-    Dice = MakeBarItem("Dice", "&Dice Roller");
-    MakeTechMenu();
-    MakeLawsMenu();
-    MakeTradeMenu();
-    About = MakeBarItem("About", "&About");
-}
-
-// Greyed items have no action and never get one.
-
-void MainMenu::MakeFileMenu() {
-    QMenu* menu = MakeMenu("File", "&File");
-    MakeItem(menu, "new", "New Game")->setEnabled(false);
-    MakeSeparator(menu, "x");
-    LGame = MakeEverywhere(menu, "LGame", "Load Game", "F1");
-    SGame = MakeEverywhere(menu, "SGame", "Save Game", "F2");
-    MakeSeparator(menu, "bar1");
-    MakeItem(menu, "LoadPlanButton", "Load Planet List")->setEnabled(false);
-    MakeSeparator(menu, "bar2");
-    Quit = MakeItem(menu, "Quit", "E&xit", "Ctrl+X");
-}
-
-void MainMenu::MakeOptionsMenu() {
-    QMenu* menu = MakeMenu("MenuOptions", "&Options");
-    QAction* sound = MakeItem(menu, "MenuSound", "Sound", "Ctrl+S");
+MainMenu::MainMenu(const Game& shown, QWidget* parent) : QMenuBar(parent), game(shown) {
+    for (const MenuDesign& design : Design()) {
+        if (design.Items.empty()) {
+            addAction(design.Caption)->setObjectName(design.Name);
+            continue;
+        }
+        QMenu* menu = addMenu(design.Caption);
+        menu->setObjectName(design.Name);
+        for (const ItemDesign& item : design.Items) {
+            QAction* made = MakeItem(menu, item);
+            if (item.Law) {
+                laws.append({made, item.Law});
+            }
+        }
+    }
+    auto* sound = findChild<QAction*>("MenuSound");
     sound->setCheckable(true);
     sound->setChecked(true);
-    sound->setEnabled(false);
-    MenuOrlen = MakeCheckItem(menu, "MenuOrlen", "Orlen house rules");
-}
-
-void MainMenu::MakeTechMenu() {
-    QMenu* menu = MakeMenu("Techs", "Tech");
-    Stech = MakeEverywhere(menu, "Stech", "Standard", "F5");
-    HTech = MakeEverywhere(menu, "HTech", "Corrin's End", "F6");
-    MakeSeparator(menu, "Indent");
-    MenuTechMod = MakeItem(menu, "MenuTechMod", "Tech Modifiers");
-}
-
-void MainMenu::MakeLawsMenu() {
-    QMenu* menu = MakeMenu("MenuLaws", "&Laws");
-    MenuLabour = MakeCheckItem(menu, "MenuLabour", "Labour Union");
-    MakeItem(menu, "MenuStudies", "Subsidized Studies")->setEnabled(false);
-}
-
-void MainMenu::MakeTradeMenu() {
-    QMenu* menu = MakeMenu("Trad", "&Trade");
-    Tres = MakeCheckItem(menu, "Tres", "Economic Independance");
-    TFree = MakeCheckItem(menu, "TFree", "Free Trade");
-    TRestr = MakeCheckItem(menu, "TRestr", "Trade Restrictions");
-    TStop = MakeItem(menu, "TStop", "Trade Stop");
-}
-
-QMenu* MainMenu::MakeMenu(const char* name, const char* caption) {
-    QMenu* menu = addMenu(caption);
-    menu->setObjectName(name);
-    return menu;
-}
-
-QAction* MainMenu::MakeBarItem(const char* name, const char* caption) {
-    QAction* item = addAction(caption);
-    item->setObjectName(name);
-    return item;
 }
 
 void MainMenu::OpenBy(QAction* item) {
@@ -121,12 +125,10 @@ void MainMenu::WorkIn(QWidget* other) {
     }
 }
 
-void MainMenu::ShowLaws(const LawMarks& laws) {
-    MenuLabour->setChecked(laws.LabourUnion);
-    MenuOrlen->setChecked(laws.OrlenHouseRules);
-    Tres->setChecked(laws.EconomicIndependence);
-    TFree->setChecked(laws.FreeTrade);
-    TRestr->setChecked(laws.TradeRestrictions);
+void MainMenu::ShowGame() {
+    for (const auto& [item, law] : laws) {
+        item->setChecked(game.Laws.*law);
+    }
 }
 
 } // namespace ksm

@@ -7,45 +7,24 @@
 
 namespace ksm {
 
-/// Holds the items with their captions, shortcuts and first states; what they do is connected by
-/// the main window.
+/// Holds the items with their captions, shortcuts and first states, each found by its name; what
+/// they do is connected by the main window.
 class MainMenu : public QMenuBar {
     Q_OBJECT
 
 public:
-    explicit MainMenu(QWidget* parent);
+    MainMenu(const Game& shown, QWidget* parent);
 
     /// Shows the check marks of the laws and house rules.
-    void ShowLaws(const LawMarks& laws);
+    void ShowGame();
     /// Lets the keys of the menus, such as Alt+L, work in another window.
     void WorkIn(QWidget* other);
 
-    // The items that do something. They belong to the menu.
-    QAction* LGame = nullptr;
-    QAction* SGame = nullptr;
-    QAction* Quit = nullptr;
-    QAction* MenuOrlen = nullptr;
-    QAction* Notes = nullptr;
-    QAction* Dice = nullptr;
-    QAction* Stech = nullptr;
-    QAction* HTech = nullptr;
-    QAction* MenuTechMod = nullptr;
-    QAction* MenuLabour = nullptr;
-    QAction* Tres = nullptr;
-    QAction* TFree = nullptr;
-    QAction* TRestr = nullptr;
-    QAction* TStop = nullptr;
-    QAction* About = nullptr;
-
 private:
-    void MakeFileMenu();
-    void MakeOptionsMenu();
-    void MakeTechMenu();
-    void MakeLawsMenu();
-    void MakeTradeMenu();
     void OpenBy(QAction* item);
-    QMenu* MakeMenu(const char* name, const char* caption);
-    QAction* MakeBarItem(const char* name, const char* caption);
+
+    const Game& game;
+    QList<std::pair<QAction*, bool LawMarks::*>> laws;
 };
 
 } // namespace ksm

@@ -80,6 +80,7 @@ void SetupPanel::MakeOptions() {
 }
 
 void SetupPanel::ShowGame() {
+    setVisible(!game.Started());
     PlayNumScroll->setValue(ScrollForNoPlayers - game.NumPlayers);
 }
 
@@ -93,7 +94,6 @@ void SetupPanel::PlayNumScroll_Change(int value) {
     const int players = ScrollForNoPlayers - value;
     if (players != game.NumPlayers) {
         SetPlayerCount(game, players);
-        emit PlayerCountChanged();
         emit Changed();
     }
 }

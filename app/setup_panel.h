@@ -16,12 +16,10 @@ class SetupPanel : public QWidget {
 public:
     SetupPanel(Game& shown, QWidget* parent);
 
-    /// Shows the number of players.
+    /// Shows the number of players, until the game starts.
     void ShowGame();
 
 signals:
-    /// The number of players changed: the window is laid out for it before this returns.
-    void PlayerCountChanged();
     /// What the user did is done.
     void Changed();
     void StartClicked();

@@ -13,7 +13,6 @@ public:
 
     /// Whether another running program has the lock.
     bool OtherIsRunning() const { return otherIsRunning; }
-    bool HasLock() const { return lock.isLocked(); }
 
 private:
     QLockFile lock;

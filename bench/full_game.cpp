@@ -4,13 +4,13 @@ namespace ksm {
 
 namespace {
 
-void MakePlayer(GameState& state, int player) {
-    PlayerRecord& record = state.Player(player);
+void MakePlayer(Game& game, int player) {
+    PlayerRecord& record = game.Player(player);
     record.Race = player % 2 == 0 ? Race::Altheran : Race::Orrun;
     record.SpaceDocks = MaxSpaceDocks;
     record.Enviro = record.PellamTools = record.Micro = true;
     for (int partner = 1; partner < player; ++partner) {
-        state.Cell(partner, player) = Agreement;
+        game.Cell(partner, player) = Agreement;
     }
 }
 
@@ -26,22 +26,22 @@ PlanetRecord MakePlanet(int number, int players) {
 
 } // namespace
 
-GameState FullGame(int players, int planets) {
-    GameState state;
-    state.NumPlayers = players;
-    state.NumPlanets = planets;
-    state.Laws = {.LabourUnion = true,
-                  .EconomicIndependence = true,
-                  .FreeTrade = true,
-                  .TradeRestrictions = true,
-                  .OrlenHouseRules = true};
+Game FullGame(int players, int planets) {
+    Game game;
+    game.NumPlayers = players;
+    game.NumPlanets = planets;
+    game.Laws = {.LabourUnion = true,
+                 .EconomicIndependence = true,
+                 .FreeTrade = true,
+                 .TradeRestrictions = true,
+                 .OrlenHouseRules = true};
     for (int player = 1; player <= players; ++player) {
-        MakePlayer(state, player);
+        MakePlayer(game, player);
     }
     for (int number = 0; number < planets; ++number) {
-        state.Planet(number) = MakePlanet(number, players);
+        game.Planet(number) = MakePlanet(number, players);
     }
-    return state;
+    return game;
 }
 
 } // namespace ksm

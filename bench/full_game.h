@@ -8,6 +8,6 @@ namespace ksm {
 /// A game in which everything adds to the figures: each player owns a fair share of the planets,
 /// all technologies and ten space docks, trades with every other one, and is Orrun or Altheran in
 /// turn; all laws are in force.
-GameState FullGame(int players, int planets);
+Game FullGame(int players, int planets);
 
 } // namespace ksm

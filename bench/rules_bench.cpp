@@ -10,7 +10,7 @@ namespace ksm {
 namespace {
 
 void UpdateFigures(benchmark::State& run) {
-    GameState game = FullGame(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
+    Game game = FullGame(static_cast<int>(run.range(0)), static_cast<int>(run.range(1)));
     for ([[maybe_unused]] auto _ : run) {
         UpdateValues(game);
         benchmark::DoNotOptimize(game);
@@ -33,7 +33,7 @@ void LoadPlanetList(benchmark::State& run) {
         bytes += "World" + std::to_string(line) + ",3,2,blue\r\n";
     }
     for ([[maybe_unused]] auto _ : run) {
-        PlanetListResult list = ReadPlanetList(bytes);
+        Outcome<PlanetList> list = ReadPlanetList(bytes);
         benchmark::DoNotOptimize(list);
     }
     run.SetBytesProcessed(run.iterations() * static_cast<std::int64_t>(bytes.size()));

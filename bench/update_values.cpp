@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 int main(int argc, char* argv[]) {
-    ksm::GameState game = ksm::FullGame(ksm::MaxPlayers, ksm::MaxPlanets);
+    ksm::Game game = ksm::FullGame(ksm::MaxPlayers, ksm::MaxPlanets);
     const int runs = argc > 1 ? std::atoi(argv[1]) : 1;
     for (int run = 0; run < runs; ++run) {
         ksm::UpdateValues(game);

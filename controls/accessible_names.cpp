@@ -23,7 +23,7 @@ public:
 
     // Asked for again and again, since a label may become clickable late.
     QAccessible::Role role() const override {
-        return IsClickable() ? QAccessible::Button : QAccessible::StaticText;
+        return label->IsClickable() ? QAccessible::Button : QAccessible::StaticText;
     }
 
     QString text(QAccessible::Text kind) const override {
@@ -40,7 +40,7 @@ public:
 
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
-        if (IsClickable() && TakesInput(*label)) {
+        if (label->IsClickable() && TakesInput(*label)) {
             names.prepend(pressAction());
         }
         return names;
@@ -55,8 +55,6 @@ public:
     }
 
 private:
-    bool IsClickable() const { return label->focusPolicy() != Qt::NoFocus; }
-
     CaptionLabel* label;
 };
 

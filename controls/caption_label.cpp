@@ -68,17 +68,6 @@ void CaptionLabel::SetHeading(const QString& text) {
     }
 }
 
-void CaptionLabel::MakeClickable() {
-    clickable = true;
-    // Not by mouse: a click acts and leaves the focus where it is.
-    setFocusPolicy(Qt::TabFocus);
-}
-
-QString CaptionLabel::ShownText() const {
-    Fit();
-    return shownText;
-}
-
 QString CaptionLabel::Explanation() const {
     return explanation ? QString::fromStdString(explanation()) : QString();
 }
@@ -89,7 +78,7 @@ void CaptionLabel::Fit() const {
         return;
     }
     fittedWidth = room;
-    // No letter is narrower than a pixel; what lies behind them cannot be seen.
+    // No letter is narrower than a pixel, so no more of them than pixels can be seen.
     const QString start = caption.left(room + 1);
     const int smallest = smallestText != 0 ? smallestText : font().pixelSize() - 2;
     shownFont = FittingFont(font(), smallest, start, room);
@@ -143,7 +132,8 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 
 bool CaptionLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        QStringList lines{ShownText() == caption ? QString() : caption, Explanation()};
+        Fit();
+        QStringList lines{shownText == caption ? QString() : caption, Explanation()};
         lines.removeAll(QString());
         ShowPlainToolTip(*static_cast<QHelpEvent*>(event), lines.join('\n'), this);
         return true;
@@ -161,7 +151,7 @@ void CaptionLabel::changeEvent(QEvent* event) {
 void CaptionLabel::keyPressEvent(QKeyEvent* event) {
     const bool acts = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                       event->key() == Qt::Key_Enter;
-    if (!acts || focusPolicy() == Qt::NoFocus) {
+    if (!acts || !IsClickable()) {
         QWidget::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
         Activate();
@@ -169,13 +159,13 @@ void CaptionLabel::keyPressEvent(QKeyEvent* event) {
 }
 
 void CaptionLabel::Activate() {
-    if (clickable && TakesInput(*this)) {
+    if (IsClickable() && TakesInput(*this)) {
         emit Clicked();
     }
 }
 
 void CaptionLabel::mousePressEvent(QMouseEvent* event) {
-    pressed = clickable && event->button() == Qt::LeftButton;
+    pressed = IsClickable() && event->button() == Qt::LeftButton;
     if (!pressed) {
         QWidget::mousePressEvent(event);
     }

@@ -28,8 +28,6 @@ public:
     void SetCaption(const QString& text);
     /// The whole caption, also where less of it is drawn.
     const QString& Caption() const { return caption; }
-    /// The caption as it is drawn.
-    QString ShownText() const;
 
     void SetAlignment(Qt::Alignment edges);
     /// Lets a caption shrink down to this size before less than all of it is drawn.
@@ -48,8 +46,10 @@ public:
     void SetExplanation(std::function<std::string()> explain) { explanation = std::move(explain); }
     QString Explanation() const;
 
-    /// Lets the mouse, and Space or Return after Tab, click the label.
-    void MakeClickable();
+    /// Lets the mouse, and Space or Return after Tab, click the label. The mouse leaves the focus
+    /// where it is.
+    void MakeClickable() { setFocusPolicy(Qt::TabFocus); }
+    bool IsClickable() const { return focusPolicy() != Qt::NoFocus; }
     /// Does what Space or Return does: clicks a clickable label.
     virtual void Activate();
 
@@ -74,7 +74,6 @@ private:
     std::function<std::string()> explanation;
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     int smallestText = 0;
-    bool clickable = false;
     bool pressed = false;
     // What fits the label at this width; found when first needed after a change.
     mutable int fittedWidth = -1;

@@ -14,7 +14,7 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     : QComboBox(parent), emptyCaption(std::move(caption)) {
     setObjectName(objectName);
     setInsertPolicy(NoInsert);
-    TakeLineEdit();
+    MakeLineEdit();
     // Not a shared model: setting one makes the whole drop-down list at once.
     addItems(entries);
     // A combo box would take a typed text that equals an entry for a choice.
@@ -23,12 +23,12 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textChanged, this, &ChoiceBox::FitText);
     connect(this, &QComboBox::activated, this, &ChoiceBox::Chosen);
-    ShowChoice(-1);
+    RestoreChoice(-1);
 }
 
-void ChoiceBox::TakeLineEdit() {
+void ChoiceBox::MakeLineEdit() {
     auto* edit = new QLineEdit(this);
-    // A combo box makes a completer, which costs more than itself, for an edit that has none.
+    // A combo box gives an edit without a completer one, which costs more than the box itself.
     QCompleter none;
     edit->setCompleter(&none);
     setLineEdit(edit);
@@ -36,6 +36,12 @@ void ChoiceBox::TakeLineEdit() {
 }
 
 void ChoiceBox::ShowChoice(int index) {
+    if (index != currentIndex()) {
+        RestoreChoice(index);
+    }
+}
+
+void ChoiceBox::RestoreChoice(int index) {
     setCurrentIndex(index);
     const QString& text = index >= 0 ? itemText(index) : emptyCaption;
     // A screen reader is told of every text that is set, also of the same one.
@@ -80,7 +86,7 @@ bool ChoiceBox::event(QEvent* event) {
 void ChoiceBox::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
-        ShowChoice(currentIndex());
+        RestoreChoice(currentIndex());
     }
 }
 
@@ -110,7 +116,7 @@ void ChoiceBox::PlaceText() {
     constexpr int ArrowWidth = 15;
     constexpr int NarrowBox = 70;
     if (width() < NarrowBox) {
-        lineEdit()->setGeometry(1, 2, width() - 1 - ArrowWidth, height() - 4);
+        lineEdit()->setGeometry(1, 1, width() - 1 - ArrowWidth, height() - 2);
     }
     FitText(currentText());
 }

@@ -34,7 +34,9 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void TakeLineEdit();
+    /// Shows the choice in place of what was typed.
+    void RestoreChoice(int index);
+    void MakeLineEdit();
     /// Gives the text of a narrow box the room up to the arrow.
     void PlaceText();
     void FitText(const QString& text);

@@ -17,13 +17,6 @@ void FixedDialog::PlaceFromOwner(QPoint offset) {
     move(parentWidget()->pos() + offset);
 }
 
-void FixedDialog::CentreOverOwner() {
-    // The frame of a window that was never shown is not known; the owner's is as thick.
-    const QWidget* owner = parentWidget();
-    const QSize spare = owner->size() - size();
-    PlaceFromOwner({spare.width() / 2, spare.height() / 2});
-}
-
 void FixedDialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !isModal()) {
         event->ignore();

@@ -20,8 +20,6 @@ protected:
 
     /// Places this window's frame right of and below the owner's top left corner, in pixels.
     void PlaceFromOwner(QPoint offset);
-    /// Places the middle of this window's frame onto the middle of the owner's.
-    void CentreOverOwner();
 };
 
 } // namespace ksm

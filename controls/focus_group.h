@@ -14,7 +14,7 @@ class FocusGroup : public QObject {
     Q_OBJECT
 
 public:
-    /// Which keys move the focus. A control may need some of them itself.
+    /// Which keys move the focus; a control may need the others itself.
     enum class Keys { Arrows, LeftAndRight, None };
 
     FocusGroup(QList<QWidget*> controls, Keys moving, QObject* parent);
@@ -35,7 +35,7 @@ private:
 
     QList<QWidget*> members;
     Keys keys;
-    QPointer<QWidget> last; ///< that had the focus
+    QPointer<QWidget> last; ///< the member that had the focus last
 };
 
 } // namespace ksm

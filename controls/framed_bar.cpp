@@ -9,7 +9,8 @@ FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* par
     setObjectName(objectName);
     setGeometry(place);
     setFocusPolicy(Qt::TabFocus);
-    // Both steps of one, so that the wheel too goes step by step.
+    setContextMenuPolicy(Qt::NoContextMenu); // a right click opens the window's menu, not Qt's
+    // A notch of the wheel moves no more than a page: here a single step.
     setSingleStep(1);
     setPageStep(1);
 }

@@ -14,9 +14,9 @@ bool InputGuard::eventFilter(QObject* watched, QEvent* event) {
         NotePress(control, static_cast<QMouseEvent&>(*event));
         return false;
     case QEvent::MouseButtonDblClick:
-        return FellThrough(control);
+        return IsStrayDoubleClick(control);
     case QEvent::KeyPress:
-        return RunsOn(control, static_cast<QKeyEvent&>(*event));
+        return IsStrayRepeat(control, static_cast<QKeyEvent&>(*event));
     case QEvent::KeyRelease:
         releaseTime = static_cast<QKeyEvent&>(*event).timestamp();
         return false;
@@ -26,19 +26,20 @@ bool InputGuard::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void InputGuard::NotePress(QWidget& control, const QMouseEvent& event) {
-    // A press that is handed on to the parents is still the first one's.
+    // A press that the control ignores is handed on to its parents, with the same time.
     if (event.timestamp() != pressTime) {
         pressed = &control;
         pressTime = event.timestamp();
     }
 }
 
-bool InputGuard::FellThrough(const QWidget& control) const {
+bool InputGuard::IsStrayDoubleClick(const QWidget& control) const {
     return pressed == nullptr || (pressed != &control && !control.isAncestorOf(pressed));
 }
 
-bool InputGuard::RunsOn(QWidget& control, const QKeyEvent& event) {
-    // Not every repetition is known as one. Nobody presses a key in the instant of releasing it.
+bool InputGuard::IsStrayRepeat(QWidget& control, const QKeyEvent& event) {
+    // X11 sends a repetition as a release and a press at the same time, and Qt does not mark all of
+    // them as repetitions. Nobody releases a key and presses it again at the same time.
     const bool isHeld = event.key() == heldKey;
     const bool isHidden =
         isHeld && !event.isAutoRepeat() && event.timestamp() == releaseTime && releaseTime != 0;

@@ -1,4 +1,4 @@
-// Clicks and keys that go on elsewhere than they began.
+// Drops clicks and keys that began in another window or control.
 #pragma once
 
 #include <QObject>
@@ -10,9 +10,9 @@ class QMouseEvent;
 
 namespace ksm {
 
-/// A click or a key can close a window, open one or hide a panel. What follows of it then reaches
-/// something else: the second half of a double click what lies behind, the repetitions of a held
-/// key another window. It counts for nothing there. To be installed on the application.
+/// A click or a key can close a window, open one or hide a panel. The second click of a double
+/// click then falls on what lies behind, and a held key repeats in another window: both are
+/// dropped. To be installed on the application.
 class InputGuard : public QObject {
     Q_OBJECT
 
@@ -24,10 +24,12 @@ protected:
 
 private:
     void NotePress(QWidget& control, const QMouseEvent& event);
-    bool FellThrough(const QWidget& control) const;
-    bool RunsOn(QWidget& control, const QKeyEvent& event);
+    /// Whether the first click of a double click fell on another control.
+    bool IsStrayDoubleClick(const QWidget& control) const;
+    /// Whether a held key repeats in a window in which it was not pressed.
+    bool IsStrayRepeat(QWidget& control, const QKeyEvent& event);
 
-    QPointer<QWidget> pressed; ///< what got the first half of a double click
+    QPointer<QWidget> pressed; ///< the control that got the last press
     quint64 pressTime = 0;
     int heldKey = 0;
     QPointer<QWidget> heldIn; ///< the window in which the key was pressed

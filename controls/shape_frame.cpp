@@ -32,13 +32,17 @@ void ShapeFrame::paintEvent(QPaintEvent* event) {
 LineControl::LineControl(const QString& objectName, const QRect& place, QWidget* parent)
     : QWidget(parent) {
     setObjectName(objectName);
-    setGeometry(place);
+    // At a scale such as 1.5 a pixel is sometimes one of the device and sometimes two: a line that
+    // is as thick everywhere needs more room than its own.
+    setGeometry(place.adjusted(0, 0, 1, 1));
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void LineControl::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    DrawEvenLine(painter, rect().topLeft(), rect().bottomRight(), 1, Qt::black);
+    const double scale = painter.deviceTransform().m11();
+    const QSize covered = (QSizeF(size() - QSize(1, 1)) * scale).toSize();
+    painter.fillRect(QRectF(OnDevicePixel(painter, {}), QSizeF(covered) / scale), Qt::black);
 }
 
 } // namespace ksm

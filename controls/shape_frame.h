@@ -24,7 +24,7 @@ private:
     QBrush fill;
 };
 
-/// A black line, `place` wide and high.
+/// A black line, `place` wide and high, and as thick everywhere at any scale.
 class LineControl : public QWidget {
     Q_OBJECT
 

@@ -99,6 +99,10 @@ void SpinBar::hideEvent(QHideEvent* event) {
 }
 
 void SpinBar::keyPressEvent(QKeyEvent* event) {
+    if (event->isAutoRepeat() && !isHeld) {
+        isHeld = true;
+        emit HoldResumed();
+    }
     SetHeld(true);
     FramedBar::keyPressEvent(event);
 }

@@ -17,6 +17,8 @@ public:
 signals:
     /// A mouse button or a key is held on the bar: all of its steps are one thing that is done.
     void HoldBegan();
+    /// A key is still held: its repetition looked like a release.
+    void HoldResumed();
     void HoldEnded();
 
 protected:

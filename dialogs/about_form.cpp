@@ -2,7 +2,6 @@
 
 #include "controls/caption_label.h"
 #include "controls/look.h"
-#include "controls/program_icon.h"
 #include "controls/shape_frame.h"
 
 #include <QLineEdit>
@@ -27,10 +26,6 @@ constexpr std::array<Caption, 5> Captions{{
     {"Label6", 128, "Official Korvane Astrell Homepage:"},
     {"Label7", 195, "UNofficial Korvane Astrell Site:"},
 }};
-
-constexpr auto MoreAddress = "https://manager.korvane-astrell.example/";
-constexpr auto OfficialAddress = "https://www.korvane-astrell.example/";
-constexpr auto FanAddress = "https://fans.korvane-astrell.example/";
 
 constexpr int ClientWidth = 356;
 constexpr int TextLeft = 70;
@@ -62,34 +57,26 @@ CaptionLabel* MakeLine(const char* name, int top, const QString& text, QWidget* 
     return label;
 }
 
-QLineEdit* MakeAddress(const char* name, const char* meaning, int top, const char* address,
-                       QWidget* parent) {
+// An address can be selected and copied.
+void MakeAddress(const char* name, const char* meaning, int top, const char* address,
+                 QWidget* parent) {
     auto* box = new QLineEdit(address, parent);
     box->setObjectName(name);
     box->setAccessibleName(meaning);
     box->setGeometry(TextLeft, top, TextWidth, 19);
     box->setFrame(false);
+    box->setReadOnly(true);
     box->setAlignment(Qt::AlignHCenter);
     QPalette palette = box->palette();
     palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     palette.setColor(QPalette::Text, Qt::blue);
     box->setPalette(palette);
-    return box;
-}
-
-/// Takes back whatever changed an address, so that nothing is left to undo either. The addresses
-/// can be selected and copied.
-void Restore(QLineEdit* box, const char* address) {
-    if (box->text() != address) {
-        box->setText(address);
-    }
 }
 
 } // namespace
 
 AboutForm::AboutForm(QWidget* owner)
     : FixedDialog("AboutForm", "About Korvane Astrell Manager", {ClientWidth, 305}, owner) {
-    setWindowIcon(ProgramIcon());
     new ShapeFrame("Shape1", QRect(8, 8, ClientWidth - 16, 104), 6, this);
     new ShapeFrame("Shape2", QRect(8, 182, ClientWidth - 16, 56), 6, this);
     MakeLine("Label1", 18, "Korvane Astrell (2nd E.) Manager Version 2.0", this)
@@ -102,12 +89,12 @@ AboutForm::AboutForm(QWidget* owner)
     new Picture("Image2(0)", ":/moon.svg", QRect(24, 194, 32, 32), this);
     new Picture("Image2(1)", ":/station.svg", QRect(300, 194, 32, 32), this);
 
-    Text3 = MakeAddress("Text3", "Web address of this program", 87, MoreAddress, this);
-    Text1 = MakeAddress("Text1", "Official Korvane Astrell Homepage", 146, OfficialAddress, this);
-    Text2 = MakeAddress("Text2", "UNofficial Korvane Astrell Site", 213, FanAddress, this);
-    connect(Text1, &QLineEdit::textChanged, this, &AboutForm::Text1_Change);
-    connect(Text2, &QLineEdit::textChanged, this, &AboutForm::Text2_Change);
-    connect(Text3, &QLineEdit::textChanged, this, &AboutForm::Text3_Change);
+    MakeAddress("Text3", "Web address of this program", 87,
+                "https://manager.korvane-astrell.example/", this);
+    MakeAddress("Text1", "Official Korvane Astrell Homepage", 146,
+                "https://www.korvane-astrell.example/", this);
+    MakeAddress("Text2", "UNofficial Korvane Astrell Site", 213,
+                "https://fans.korvane-astrell.example/", this);
 
     auto* ok = new QPushButton("OK", this);
     ok->setObjectName("Command1");
@@ -122,20 +109,10 @@ AboutForm::AboutForm(QWidget* owner)
     Form_Load();
 }
 
+// Its frame is not known before it is shown, but as thick as the owner's.
 void AboutForm::Form_Load() {
-    CentreOverOwner();
-}
-
-void AboutForm::Text1_Change() {
-    Restore(Text1, OfficialAddress);
-}
-
-void AboutForm::Text2_Change() {
-    Restore(Text2, FanAddress);
-}
-
-void AboutForm::Text3_Change() {
-    Restore(Text3, MoreAddress);
+    const QSize spare = parentWidget()->size() - size();
+    PlaceFromOwner({spare.width() / 2, spare.height() / 2});
 }
 
 void AboutForm::Command1_Click() {

@@ -3,8 +3,6 @@
 
 #include "controls/fixed_dialog.h"
 
-class QLineEdit;
-
 namespace ksm {
 
 /// Says what the program is, and where more is to be found. Addresses can be selected and copied.
@@ -16,14 +14,7 @@ public:
 
 private:
     void Form_Load();
-    void Text1_Change();
-    void Text2_Change();
-    void Text3_Change();
     void Command1_Click();
-
-    QLineEdit* Text1;
-    QLineEdit* Text2;
-    QLineEdit* Text3;
 };
 
 } // namespace ksm

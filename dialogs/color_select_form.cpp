@@ -9,7 +9,9 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextBoundaryFinder>
+#include <QValidator>
 
 #include <limits>
 
@@ -39,6 +41,18 @@ constexpr std::array<SwatchDesign, 12> Swatches{{
     {600, 1080, "Green", {colour::Green, colour::Black}},
     {960, 1080, "Navy", {colour::Navy, colour::White}},
 }};
+
+/// Makes a blank of whatever would break the one line of a name, such as a tab that was pasted.
+class OneLine : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int&) const override {
+        static const QRegularExpression breaks("[\\p{Cc}\\p{Zl}\\p{Zp}]");
+        text.replace(breaks, " ");
+        return Acceptable;
+    }
+};
 
 // A letter with its accents, or an emoji of several parts, is one character.
 QString FirstCharacters(const QString& text, int count) {
@@ -82,6 +96,7 @@ QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, con
     entry->setAccessibleName(meaning);
     entry->setGeometry(place);
     entry->setMaxLength(std::numeric_limits<int>::max());
+    entry->setValidator(new OneLine(entry));
     return entry;
 }
 
@@ -99,32 +114,30 @@ void ColorSelectForm::MakeSwatches() {
 }
 
 void ColorSelectForm::Form_Load() {
-    const bool named = !state.Player(player).Name.empty();
+    const bool named = !state.Game.Player(player).Name.empty();
     // A text that differs from the design text "Name" counts as a change.
-    NameEntry->setText(named ? QString::fromStdString(PlayerCaption(state, player)) : QString());
+    NameEntry->setText(named ? QString::fromStdString(PlayerCaption(state.Game, player))
+                             : QString());
 }
 
 void ColorSelectForm::NameEntry_Change(const QString& text) {
     const QString shortName = FirstCharacters(text, 3);
-    SetName(state, player, text.toStdString(), shortName.toStdString());
+    SetName(state.Game, player, text.toStdString(), shortName.toStdString());
     ShortNameEntry->setText(shortName);
-    emit PlayerChanged(player);
     emit Changed();
 }
 
-// Also runs when the name brings its short name along.
+// Also runs when the name brings its short name along, which is no change of its own.
 void ColorSelectForm::ShortNameEntry_Change(const QString& text) {
     const std::string shortName = text.toStdString();
-    if (shortName != state.Player(player).ShortName) {
-        state.Player(player).ShortName = shortName;
-        emit PlayerChanged(player);
+    if (shortName != state.Game.Player(player).ShortName) {
+        state.Game.Player(player).ShortName = shortName;
         emit Changed();
     }
 }
 
 void ColorSelectForm::NameColor_Click(int swatch) {
-    SetColours(state, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
-    emit PlayerChanged(player);
+    SetColours(state.Game, player, Swatches.at(static_cast<std::size_t>(swatch - 1)).Colours);
     emit Changed();
 }
 

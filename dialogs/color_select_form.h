@@ -21,9 +21,7 @@ public:
     void Form_Load();
 
 signals:
-    /// Name, short name or colours of the player changed: they are shown before this returns.
-    void PlayerChanged(int player);
-    /// What the user did is done.
+    /// Name, short name or colours of the player changed: once for each thing that the user did.
     void Changed();
     /// "OK" or Enter.
     void Confirmed();

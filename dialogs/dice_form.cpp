@@ -21,11 +21,11 @@ namespace {
 
 constexpr int PlaceSize = 25;
 
-// A place in the middle and six around it.
+// One place in the middle and six around it.
 constexpr std::array<QPoint, MaxDice> PlaceCorners{
     {{48, 47}, {89, 63}, {8, 23}, {48, 7}, {88, 24}, {48, 83}, {8, 63}}};
 
-// The spinner runs against the count: its lowest usable position shows one die.
+// The spinner counts down: its last usable position means one die.
 constexpr int OneDie = MaxDice - 1;
 
 CaptionLabel* MakeFigure(const QString& name, QPoint corner, int pixels, QWidget* parent) {
@@ -77,7 +77,7 @@ void DiceForm::Form_Load() {
 
 void DiceForm::Scroll_Change() {
     if (Scroll->value() > OneDie) {
-        Scroll->setValue(OneDie); // comes back here when it is new
+        Scroll->setValue(OneDie); // calls this handler again
         return;
     }
     dice = MaxDice - Scroll->value();

@@ -13,7 +13,7 @@ class SpinBar;
 
 /// Rolls one to seven ten-sided dice and shows them where they fell. Opens right of its owner with
 /// one die, and forgets everything when it is closed. Each roll begins with a new seed: the time of
-/// day, if nothing else is given.
+/// day unless `seed` is given.
 class DiceForm : public FixedDialog {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
     std::array<CaptionLabel*, MaxDice> Label1{};
     CaptionLabel* Coun = nullptr;
     SpinBar* Scroll = nullptr;
-    int dice = 1; ///< as many as are rolled
+    int dice = 1; ///< how many are rolled
 };
 
 } // namespace ksm

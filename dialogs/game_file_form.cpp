@@ -27,8 +27,8 @@ constexpr QSize ListRow{0, 14};
 constexpr auto Extension = ".ksm";
 constexpr auto DefaultName = "savegame.ksm";
 
-// Hidden files too: one can be called just ".ksm". Only the extension in small letters, since a
-// name with any other would be completed to that of another file.
+// Hidden files too, since a file may be called just ".ksm". The extension counts in small letters
+// only: "A.KSM" would be completed to "A.KSM.ksm".
 QStringList GameFiles() {
     return QDir().entryList({QString("*") + Extension},
                             QDir::Files | QDir::Hidden | QDir::CaseSensitive,
@@ -91,11 +91,11 @@ void GameFileForm::Confirm() {
     if (!FileNam->text().endsWith(Extension)) {
         FileNam->setText(FileNam->text() + Extension);
     }
-    const QString problem = UseFile(FileNam->text());
-    if (problem.isEmpty()) {
+    if (const Outcome<> used = UseFile(FileNam->text()); used) {
         accept();
     } else {
-        ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText, problem, this);
+        ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText,
+                    QString::fromStdString(used.Reason()), this);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/fixed_dialog.h"
+#include "model/outcome.h"
 
 #include <QRect>
 
@@ -10,7 +11,7 @@ class QListWidget;
 
 namespace ksm {
 
-/// Wherein the two dialogs differ; places in pixels of the client area.
+/// What differs between the two dialogs; places are pixels of the client area.
 struct GameFileDesign {
     const char* FormName = "";
     const char* Title = "";
@@ -35,8 +36,8 @@ protected:
     /// Completes the name in the box with ".ksm", uses the file and closes the dialog; what went
     /// wrong is shown, and the dialog stays open.
     void Confirm();
-    /// Writes or reads the file. Returns why that failed, or an empty text.
-    virtual QString UseFile(const QString& name) = 0;
+    /// Writes or reads the file.
+    virtual Outcome<> UseFile(const QString& name) = 0;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -23,12 +23,13 @@ constexpr GameFileDesign Design{
 
 LoadForm::LoadForm(QWidget* owner) : GameFileForm(Design, owner) {}
 
-QString LoadForm::UseFile(const QString& name) {
-    const ReadGameResult result = LoadGameFile(name);
-    if (result.Game) {
-        emit GameLoaded(*result.Game);
+Outcome<> LoadForm::UseFile(const QString& name) {
+    const Outcome<GameState> game = LoadGameFile(name);
+    if (!game) {
+        return Failure{game.Reason()};
     }
-    return result.Problem;
+    emit GameLoaded(*game);
+    return {};
 }
 
 } // namespace ksm

@@ -6,7 +6,7 @@
 
 namespace ksm {
 
-/// Reads and checks a saved game; putting it in force is up to whoever hears of it.
+/// Reads and checks a saved game; whoever listens to the signal puts it in force.
 class LoadForm : public GameFileForm {
     Q_OBJECT
 
@@ -14,11 +14,11 @@ public:
     explicit LoadForm(QWidget* owner);
 
 signals:
-    /// A whole and faultless game. Emitted at most once, before the dialog closes.
+    /// The game that was read. Emitted at most once, before the dialog closes.
     void GameLoaded(const ksm::GameState& game);
 
 protected:
-    QString UseFile(const QString& name) override;
+    Outcome<> UseFile(const QString& name) override;
 };
 
 } // namespace ksm

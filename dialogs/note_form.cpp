@@ -13,8 +13,8 @@ namespace ksm {
 
 namespace {
 
-// To find where such a word is broken best takes the square of its length: minutes for a file
-// pasted by mistake.
+// The time to wrap a word grows with the square of its length: minutes for a file pasted by
+// mistake.
 constexpr qsizetype LongestWrappedWord = 1000;
 
 bool HasEndlessWord(const QString& text) {
@@ -39,6 +39,9 @@ public:
 
 protected:
     void insertFromMimeData(const QMimeData* source) override {
+        if (!source->hasText()) {
+            return; // Qt 6.4 crashes where there is no format at all, as in an empty clipboard
+        }
         PrepareFor(source->text());
         QPlainTextEdit::insertFromMimeData(source);
     }
@@ -57,7 +60,7 @@ NoteForm::NoteForm(GameState& game, QWidget* owner)
     Aant->setObjectName("Aant");
     Aant->setAccessibleName("Notes");
     Aant->setGeometry(TwipsRect(120, 195, 2175, 3375));
-    // The box is alone in its window, so Tab is of more use for columns than for leaving it.
+    // Nothing else in the window takes the focus, so Tab makes columns.
     Aant->setTabStopDistance(24);
     new ShapeFrame("Shape1", rect(), 0, this);
     Form_Load();
@@ -77,7 +80,7 @@ void NoteForm::ShowNotes() {
     }
 }
 
-// Also runs when the box is filled to show the notes.
+// Also runs when ShowNotes fills the box.
 void NoteForm::Aant_Change() {
     std::string text = Text();
     if (text != state.NotesText) {
@@ -87,7 +90,7 @@ void NoteForm::Aant_Change() {
 }
 
 std::string NoteForm::Text() const {
-    // Asked for plain text, the box would make blanks of no-break spaces.
+    // toPlainText() would turn no-break spaces into blanks.
     QString text = Aant->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, '\n');
     text.replace(QChar::LineSeparator, '\n');

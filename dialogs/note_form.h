@@ -8,8 +8,8 @@ namespace ksm {
 struct GameState;
 class NotesBox;
 
-/// A scratch pad for the evening. The text is the game's, not the window's: every change is kept at
-/// once, and the window can be closed and opened again.
+/// A scratch pad for the evening. Every change goes straight into the game, so that closing the
+/// window loses nothing.
 class NoteForm : public FixedDialog {
     Q_OBJECT
 
@@ -17,11 +17,11 @@ public:
     /// `game` must live longer than the window.
     NoteForm(GameState& game, QWidget* owner);
 
-    /// Shows the notes, when they came from somewhere else, such as another game.
+    /// Shows the notes of the game, if they are not shown already.
     void ShowNotes();
 
 signals:
-    /// What the user did is done.
+    /// The user changed the notes.
     void Changed();
 
 private:

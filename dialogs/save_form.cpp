@@ -24,7 +24,7 @@ constexpr GameFileDesign Design{
 SaveForm::SaveForm(const GameState& game, QWidget* owner)
     : GameFileForm(Design, owner), state(game) {}
 
-QString SaveForm::UseFile(const QString& name) {
+Outcome<> SaveForm::UseFile(const QString& name) {
     return SaveGameFile(name, state);
 }
 

@@ -15,7 +15,7 @@ public:
     SaveForm(const GameState& game, QWidget* owner);
 
 protected:
-    QString UseFile(const QString& name) override;
+    Outcome<> UseFile(const QString& name) override;
 
 private:
     const GameState& state;

@@ -2,17 +2,6 @@
 
 namespace ksm {
 
-namespace {
-
-StrokePair Pair(Point tip, Point first, Point second, Colour ink) {
-    const auto stroke = [tip](Point offset) {
-        return ChartStroke{tip, {tip.X + offset.X, tip.Y + offset.Y}};
-    };
-    return {stroke(first), stroke(second), ink};
-}
-
-} // namespace
-
 Colour BoxColour(TechField field) {
     switch (field) {
     case TechField::Yellow:
@@ -28,19 +17,23 @@ Colour BoxColour(TechField field) {
 }
 
 std::vector<StrokePair> StrokePairs(const TechChart& chart) {
-    constexpr int s = StrokeSize;
     std::vector<StrokePair> pairs;
     for (const auto& [shape, at, ink] : chart.Marks) {
+        const auto [x, y] = at;
+        const int left = x - StrokeSize;
+        const int right = x + StrokeSize;
+        const int above = y - StrokeSize;
+        const int below = y + StrokeSize;
         switch (shape) {
         case MarkShape::ArrowDown:
-            pairs.push_back(Pair(at, {-s, -s}, {s, -s}, ink));
+            pairs.push_back({at, {left, above}, {right, above}, ink});
             break;
         case MarkShape::ArrowRight:
-            pairs.push_back(Pair(at, {-s, -s}, {-s, s}, ink));
+            pairs.push_back({at, {left, above}, {left, below}, ink});
             break;
         case MarkShape::Diamond:
-            pairs.push_back(Pair({at.X, at.Y + s}, {-s, -s}, {s, -s}, ink));
-            pairs.push_back(Pair({at.X, at.Y - s}, {-s, s}, {s, s}, ink));
+            pairs.push_back({{x, below}, {left, y}, {right, y}, ink});
+            pairs.push_back({{x, above}, {left, y}, {right, y}, ink});
             break;
         }
     }

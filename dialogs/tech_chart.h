@@ -15,22 +15,20 @@ inline constexpr int ChartWidth = 553;
 inline constexpr int ChartHeight = 475;
 inline constexpr int TechBoxWidth = 77;
 inline constexpr int TechBoxHeight = 33;
-/// Two boxes of the expansion are this wide.
-inline constexpr int NarrowWidth = 71;
 /// How far a stroke of an arrowhead or diamond reaches to the side, and up or down.
 inline constexpr int StrokeSize = 7;
 
 /// Centre of the diamond that explains the diamonds.
 inline constexpr Point LegendSample{38, 459};
 
-/// The four kinds of technology, each with its own cost.
-enum class TechField : std::uint8_t { Yellow, Green, Blue, Red };
+/// The four kinds of technology, each with its own cost; in the order of their columns.
+enum class TechField : std::uint8_t { Green, Yellow, Blue, Red };
 
 enum class TechRule : std::uint8_t { AnyOf, AllOf };
 
-struct Technology {
+struct TechBox {
     std::string_view Name;
-    TechField Field = TechField::Yellow;
+    TechField Field = TechField::Green;
     Point Place; ///< top left corner of the box
     TechRule Rule = TechRule::AnyOf;
     std::vector<int> Sources{}; ///< indices of what leads here; none: free from the start
@@ -58,7 +56,7 @@ struct ChartMark {
 /// Connectors straight down are black; what leaves to the side has the colour of the field it comes
 /// from (orange for yellow). Later elements are drawn over earlier ones, and `Line1` last.
 struct TechChart {
-    std::vector<Technology> Label1;
+    std::vector<TechBox> Label1;
     std::vector<Connector> Line1;
     std::vector<Connector> Line4;
     std::vector<Connector> Line5;
@@ -71,15 +69,11 @@ const TechChart& ExpansionChart();
 
 Colour BoxColour(TechField field);
 
-struct ChartStroke {
-    Point From;
-    Point To;
-};
-
-/// Two strokes that meet at `From`: an arrowhead, or the lower or upper half of a diamond.
+/// Two strokes from a tip to these ends: an arrowhead, or the lower or upper half of a diamond.
 struct StrokePair {
-    ChartStroke Line2;
-    ChartStroke Line3;
+    Point Tip;
+    Point Line2;
+    Point Line3;
     Colour Ink;
 };
 

@@ -27,7 +27,7 @@ QString ToQString(std::string_view name) {
 }
 
 /// What the lines that enter a box tell the eye.
-QString Requirement(const Technology& technology, const TechChart& chart) {
+QString Requirement(const TechBox& technology, const TechChart& chart) {
     QStringList sources;
     for (const int source : technology.Sources) {
         sources << ToQString(chart.Label1.at(static_cast<std::size_t>(source)).Name);
@@ -38,16 +38,16 @@ QString Requirement(const Technology& technology, const TechChart& chart) {
     return "needs " + sources.join(technology.Rule == TechRule::AllOf ? " and " : " or ");
 }
 
-QString AccessibleName(const Technology& technology, const TechChart& chart) {
-    constexpr std::array fields{"yellow", "green", "blue", "red"};
+QString AccessibleName(const TechBox& technology, const TechChart& chart) {
+    constexpr std::array fields{"green", "yellow", "blue", "red"};
     return QString("%1, %2, %3")
         .arg(ToQString(technology.Name),
              QLatin1StringView(fields.at(static_cast<std::size_t>(technology.Field))),
              Requirement(technology, chart));
 }
 
-QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
-    const Technology& technology = chart.Label1.at(static_cast<std::size_t>(index));
+void MakeBox(const TechChart& chart, int index, QWidget* parent) {
+    const TechBox& technology = chart.Label1.at(static_cast<std::size_t>(index));
     auto* box = new QLabel(parent);
     box->setObjectName(ElementName("Label1", index));
     box->setGeometry({ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)});
@@ -60,7 +60,6 @@ QLabel* MakeBox(const TechChart& chart, int index, QWidget* parent) {
     colours.setColor(QPalette::WindowText, Qt::white);
     box->setPalette(colours);
     box->setAutoFillBackground(true);
-    return box;
 }
 
 void MakeLegend(QWidget* parent) {
@@ -70,7 +69,7 @@ void MakeLegend(QWidget* parent) {
     legend->setFont(BoxFont());
     legend->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     legend->setGeometry(LegendSample.X + 13, LegendSample.Y - 8, 40, 17);
-    // A click on it is nobody's click; the boxes hand theirs on to the window.
+    // A click on it does nothing.
     legend->setAttribute(Qt::WA_NoMousePropagation);
 }
 
@@ -86,11 +85,11 @@ void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
     for (const StrokePair& pair : pairs) {
         painter.setPen(
             QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        const QPointF tip = ToQPoint(pair.Line2.From);
+        const QPointF tip = ToQPoint(pair.Tip);
         const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
         // Both meet at the tip.
-        const std::array points{ToQPoint(pair.Line2.To) + even, tip + even,
-                                ToQPoint(pair.Line3.To) + even};
+        const std::array points{ToQPoint(pair.Line2) + even, tip + even,
+                                ToQPoint(pair.Line3) + even};
         painter.drawPolyline(points.data(), points.size());
     }
 }
@@ -109,7 +108,7 @@ TechForm::TechForm(const char* objectName, const QString& title, const TechChart
                    QWidget* owner)
     : FixedDialog(objectName, title, QSize(ChartWidth, ChartHeight), owner), chart(shown) {
     for (int index = 0; index < static_cast<int>(chart.Label1.size()); ++index) {
-        boxes.append(MakeBox(chart, index, this));
+        MakeBox(chart, index, this);
     }
     MakeLegend(this);
     Form_Load();
@@ -123,23 +122,14 @@ void TechForm::Form_Click() {
     close();
 }
 
-void TechForm::Label1_Click(qsizetype) {
-    close();
-}
-
+// The boxes hand their clicks on to the window.
 void TechForm::mousePressEvent(QMouseEvent* event) {
     pressed = event->button() == Qt::LeftButton;
 }
 
 void TechForm::mouseReleaseEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
-    if (!pressed || event->button() != Qt::LeftButton || !rect().contains(place)) {
-        return;
-    }
-    const qsizetype box = boxes.indexOf(childAt(place));
-    if (box >= 0) {
-        Label1_Click(box);
-    } else {
+    if (pressed && event->button() == Qt::LeftButton &&
+        rect().contains(event->position().toPoint())) {
         Form_Click();
     }
 }

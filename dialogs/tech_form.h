@@ -4,8 +4,6 @@
 #include "controls/fixed_dialog.h"
 #include "dialogs/tech_chart.h"
 
-#include <QList>
-
 namespace ksm {
 
 /// Shows the standard chart over the top left corner of its owner until it is clicked or closed.
@@ -26,10 +24,8 @@ protected:
 private:
     void Form_Load();
     void Form_Click();
-    void Label1_Click(qsizetype index);
 
     const TechChart& chart;
-    QList<QWidget*> boxes;
     bool pressed = false;
 };
 

@@ -34,7 +34,7 @@ QString Signed(int modifier) {
 
 TechModForm::TechModForm(QWidget* owner)
     : FixedDialog("TechModForm", "Tech cost modifiers", {FromTwips(3480), FromTwips(1500)}, owner) {
-    // A window without an icon has the program's, if it is not given an empty one.
+    // A window without an icon of its own gets the program's, so this one gets an empty one.
     QPixmap nothing(16, 16);
     nothing.fill(Qt::transparent);
     setWindowIcon(nothing);

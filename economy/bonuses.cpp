@@ -13,11 +13,12 @@ int MicroTechBonus(const Game& game, int player, PartnerSet partners) {
 }
 
 int TradeBonus(const Game& game, int player, PartnerSet partners) {
-    const int most = game.Laws.TradeRestrictions ? game.Player(player).PlanetCount : MaxPlanets;
+    const int most =
+        game.Laws.TradeRestrictions ? game.Player(player).Figures.PlanetCount : MaxPlanets;
     int credits = 0;
     for (std::size_t partner = 1; partner <= MaxPlayers; ++partner) {
         if (partners[partner]) {
-            credits += std::min(most, game.Players[partner].PlanetCount);
+            credits += std::min(most, game.Players[partner].Figures.PlanetCount);
         }
     }
     return credits;

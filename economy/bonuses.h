@@ -34,7 +34,8 @@ inline bool IsAltheranHome(const PlanetRecord& planet) {
 /// Influence: one for each owned planet, as last counted, other than the home planet.
 inline int AltheranBonus(const Game& game, int player) {
     const PlayerRecord& record = game.Player(player);
-    return record.Race == Race::Altheran ? record.PlanetCount - record.AltheranHomes : 0;
+    return record.Race == Race::Altheran ? record.Figures.PlanetCount - record.Figures.AltheranHomes
+                                         : 0;
 }
 
 // Agreements. `partners` are the player's.

@@ -18,6 +18,10 @@ using Parts = std::vector<Part>;
 struct FigureDesign {
     const char* Caption = "";
     int PlayerFigures::*Value = nullptr;
+    // Of the costs.
+    Specialty Cheaper = Specialty::None;
+    std::uint8_t PlayerRecord::*Base = nullptr;
+    std::int16_t Game::*Modifier = nullptr;
 };
 
 // In the order of the enumeration.
@@ -26,18 +30,22 @@ constexpr std::array<FigureDesign, FigureCount> Figures{
      {"Influence", &PlayerFigures::Influence},
      {"Planets", &PlayerFigures::PlanetCount},
      {"Credits", &PlayerFigures::Credits},
-     {"Green cost", &PlayerFigures::GreenTech},
-     {"Blue cost", &PlayerFigures::BlueTech},
-     {"Red cost", &PlayerFigures::RedTech},
-     {"Yellow cost", &PlayerFigures::YellowTech}}};
+     {"Green cost", &PlayerFigures::GreenTech, Specialty::Green, &PlayerRecord::GreenCost,
+      &Game::GreenModifier},
+     {"Blue cost", &PlayerFigures::BlueTech, Specialty::Blue, &PlayerRecord::BlueCost,
+      &Game::BlueModifier},
+     {"Red cost", &PlayerFigures::RedTech, Specialty::Red, &PlayerRecord::RedCost,
+      &Game::RedModifier},
+     {"Yellow cost", &PlayerFigures::YellowTech, Specialty::None, &PlayerRecord::YellowCost,
+      &Game::YellowModifier}}};
 
 const FigureDesign& DesignOf(Figure figure) {
     return Figures.at(static_cast<std::size_t>(figure));
 }
 
-/// "1 planet", "3 planets".
+/// " (1 planet)", " (3 planets)".
 std::string Count(int number, const std::string& what) {
-    return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
+    return " (" + std::to_string(number) + ' ' + what + (number == 1 ? ")" : "s)");
 }
 
 int Sum(const Parts& parts) {
@@ -45,67 +53,50 @@ int Sum(const Parts& parts) {
                            [](int sum, const Part& part) { return sum + part.Amount; });
 }
 
-std::vector<const PlanetRecord*> PlanetsOf(const Game& game, int player) {
-    std::vector<const PlanetRecord*> planets;
+/// A part of nothing is left out.
+void Add(Parts& parts, int amount, const std::string& words) {
+    if (amount != 0) {
+        parts.push_back({amount, words});
+    }
+}
+
+/// One part for each planet of the player. A screen has no room for a hundred of them.
+template<typename AmountOf>
+Parts PlanetParts(const Game& game, int player, const AmountOf& amountOf,
+                  const char* inShort = "from planets") {
+    Parts parts;
     for (const PlanetRecord& planet : game.LoadedPlanets()) {
         if (planet.Owner == player) {
-            planets.push_back(&planet);
+            Add(parts, amountOf(planet), planet.Name);
         }
     }
-    return planets;
-}
-
-// A screen has no room for a line for each of a hundred planets.
-Parts Shorten(Parts planets) {
     constexpr std::size_t MostLines = 12;
-    if (planets.size() > MostLines) {
-        planets = {{Sum(planets), "of " + Count(static_cast<int>(planets.size()), "planet")}};
-    }
-    return planets;
+    return parts.size() > MostLines ? Parts{{Sum(parts), inShort}} : parts;
 }
 
-Parts PlanetParts(const Game& game, int player, std::uint8_t PlanetRecord::*figure) {
-    Parts parts;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        if (planet->*figure != 0) {
-            parts.push_back({planet->*figure, planet->Name});
-        }
-    }
-    return Shorten(parts);
+/// What Pellam Tools make of that many planets.
+void AddPellamTools(Parts& parts, const Game& game, int player, int planets, int each) {
+    Add(parts, PellamToolsBonus(game, player) * planets * each,
+        "Pellam Tools" + Count(planets, "planet"));
 }
 
 Parts ResourceParts(const Game& game, int player) {
-    Parts parts = PlanetParts(game, player, &PlanetRecord::Resources);
-    const int planets = game.Player(player).PlanetCount;
-    if (PellamToolsBonus(game, player) != 0 && planets != 0) {
-        parts.push_back({planets, "Pellam Tools (" + Count(planets, "planet") + ")"});
-    }
+    Parts parts = PlanetParts(game, player, [](const PlanetRecord& p) { return p.Resources; });
+    AddPellamTools(parts, game, player, game.Player(player).Figures.PlanetCount, 1);
     return parts;
 }
 
 Parts InfluenceParts(const Game& game, int player) {
-    Parts parts = PlanetParts(game, player, &PlanetRecord::Influence);
-    const std::array bonuses{
-        Part{EnviroCompBonus(game, player), "Enviro Comp. (space docks)"},
-        Part{OrrunBonus(game, player), "Orrun (agreements in play)"},
-        Part{AltheranBonus(game, player), "Altheran (planets other than Quessin)"},
-    };
-    std::ranges::copy_if(bonuses, std::back_inserter(parts),
-                         [](const Part& bonus) { return bonus.Amount != 0; });
-    return parts;
-}
-
-Parts CountParts(const Game& game, int player) {
-    Parts parts;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        parts.push_back({1, planet->Name});
-    }
+    Parts parts = PlanetParts(game, player, [](const PlanetRecord& p) { return p.Influence; });
+    Add(parts, EnviroCompBonus(game, player), "Enviro Comp. (space docks)");
+    Add(parts, OrrunBonus(game, player), "Orrun (agreements in play)");
+    Add(parts, AltheranBonus(game, player), "Altheran (planets other than Quessin)");
     return parts;
 }
 
 Part PartnerPart(const Game& game, int player, int partner) {
-    const int own = game.Player(player).PlanetCount;
-    const int theirs = game.Player(partner).PlanetCount;
+    const int own = game.Player(player).Figures.PlanetCount;
+    const int theirs = game.Player(partner).Figures.PlanetCount;
     const int brought = game.Laws.TradeRestrictions ? std::min(own, theirs) : theirs;
     std::string words = (brought == 1 ? "planet of " : "planets of ") + SpokenName(game, partner);
     if (game.Laws.TradeRestrictions) {
@@ -117,91 +108,38 @@ Part PartnerPart(const Game& game, int player, int partner) {
 
 Parts CreditParts(const Game& game, int player) {
     const PartnerSet partners = TradePartners(game, player);
-    const int resources = game.Player(player).PlanetResources;
+    const int resources = game.Player(player).Figures.PlanetResources;
     Parts parts{{resources, resources == 1 ? "resource" : "resources"}};
     for (int partner = 1; partner <= MaxPlayers; ++partner) {
         if (partners[static_cast<std::size_t>(partner)]) {
             parts.push_back(PartnerPart(game, player, partner));
         }
     }
-    if (const int credits = FreeTradeBonus(game, partners)) {
-        parts.push_back({credits, "Free Trade (" + Count(credits / 5, "partner") + ")"});
-    }
-    if (const int credits = MicroTechBonus(game, player, partners)) {
-        parts.push_back({credits, "Micro Tech. (" + Count(credits / 3, "partner") + ")"});
-    }
+    const int freeTrade = FreeTradeBonus(game, partners);
+    const int microTech = MicroTechBonus(game, player, partners);
+    Add(parts, freeTrade, "Free Trade" + Count(freeTrade / 5, "partner"));
+    Add(parts, microTech, "Micro Tech." + Count(microTech / 3, "partner"));
     return parts;
 }
 
-/// Wherein the costs of the four colours differ.
-struct CostDesign {
-    Specialty Cheaper = Specialty::None;
-    std::uint8_t PlayerRecord::*Base = nullptr;
-    std::int16_t Game::*Modifier = nullptr;
-};
-
-CostDesign CostOf(Figure figure) {
-    switch (figure) {
-    case Figure::GreenCost:
-        return {Specialty::Green, &PlayerRecord::GreenCost, &Game::GreenModifier};
-    case Figure::BlueCost:
-        return {Specialty::Blue, &PlayerRecord::BlueCost, &Game::BlueModifier};
-    case Figure::RedCost:
-        return {Specialty::Red, &PlayerRecord::RedCost, &Game::RedModifier};
-    default:
-        return {Specialty::None, &PlayerRecord::YellowCost, &Game::YellowModifier};
-    }
-}
-
-Parts DiscountParts(const Game& game, int player, Specialty cheaper) {
-    Parts parts;
-    int planets = 0;
-    for (const PlanetRecord* planet : PlanetsOf(game, player)) {
-        if (planet->Specialty == cheaper) {
-            ++planets;
-            parts.push_back({-planet->Resources, planet->Name});
-        }
-    }
-    parts = Shorten(parts);
-    if (planets != 0 && PellamToolsBonus(game, player) != 0) {
-        parts.push_back({-planets, "Pellam Tools (" + Count(planets, "planet") + ")"});
-    }
-    return parts;
-}
-
-Parts CostParts(const Game& game, int player, const CostDesign& cost) {
+Parts CostParts(const Game& game, int player, const FigureDesign& cost) {
     const PlayerRecord& record = game.Player(player);
-    const int base = record.*cost.Base;
-    const std::string race(record.Race == Race::None ? "everybody" : TraitsOf(record.Race).Caption);
-    Parts parts{{base, "base cost of " + race}};
+    Parts parts{{record.*cost.Base, "base cost"}};
+    if (record.Race != Race::None) {
+        parts.front().Words += " of " + std::string(TraitsOf(record.Race).Caption);
+    }
     if (cost.Cheaper != Specialty::None) {
-        const Parts discounts = DiscountParts(game, player, cost.Cheaper);
+        int planets = 0;
+        const Parts discounts = PlanetParts(game, player, [&](const PlanetRecord& planet) {
+            planets += planet.Specialty == cost.Cheaper ? 1 : 0;
+            return planet.Specialty == cost.Cheaper ? -planet.Resources : 0;
+        });
         parts.insert(parts.end(), discounts.begin(), discounts.end());
-        if (const int below = Sum(parts); below < 0) {
-            parts.push_back({-below, "the discount is cut at the base cost"});
-        }
+        AddPellamTools(parts, game, player, planets, -1);
+        Add(parts, std::max(-Sum(parts), 0), "(the discount is limited to the base cost)");
     }
-    if (const int modifier = game.*cost.Modifier - NeutralModifier) {
-        parts.push_back({modifier, "Tech Modifiers"});
-    }
+    Add(parts, game.*cost.Modifier - NeutralModifier, "Tech Modifiers");
     return parts;
-}
-
-Explanation ExplainAnew(const Game& game, int player, Figure figure) {
-    const bool exchanged = game.Laws.LabourUnion;
-    const std::string law = exchanged ? "Labour Union: influence and resources change places" : "";
-    switch (figure) {
-    case Figure::Resources:
-        return {exchanged ? InfluenceParts(game, player) : ResourceParts(game, player), law};
-    case Figure::Influence:
-        return {exchanged ? ResourceParts(game, player) : InfluenceParts(game, player), law};
-    case Figure::Planets:
-        return {CountParts(game, player), ""};
-    case Figure::Credits:
-        return {CreditParts(game, player), law};
-    default:
-        return {CostParts(game, player, CostOf(figure)), ""};
-    }
 }
 
 /// "before Bert: equal influence, more resources".
@@ -219,24 +157,39 @@ std::string TieText(const Game& game, const TurnOrderRow& one, const TurnOrderRo
 } // namespace
 
 int ValueOf(const Game& game, int player, Figure figure) {
-    return game.Player(player).*DesignOf(figure).Value;
+    return game.Player(player).Figures.*DesignOf(figure).Value;
 }
 
 Explanation Explain(const Game& game, int player, Figure figure) {
-    Explanation explanation = ExplainAnew(game, player, figure);
-    // Setup can change the number of players without computing the figures again.
-    const int difference = ValueOf(game, player, figure) - Sum(explanation.Parts);
-    if (difference != 0) {
-        explanation.Parts.push_back({difference, "for the number of players before"});
+    const bool swapped = game.Laws.LabourUnion;
+    const std::string law = swapped ? "Labour Union: influence and resources are swapped" : "";
+    switch (figure) {
+    case Figure::Resources:
+    case Figure::Influence: {
+        const bool ofResources = (figure == Figure::Resources) != swapped;
+        return {ofResources ? ResourceParts(game, player) : InfluenceParts(game, player), law};
     }
-    return explanation;
+    case Figure::Planets:
+        return {PlanetParts(
+                    game, player, [](const PlanetRecord&) { return 1; },
+                    "planets (a click on the owner lists them)"),
+                ""};
+    case Figure::Credits:
+        return {CreditParts(game, player), law};
+    default:
+        return {CostParts(game, player, DesignOf(figure)), ""};
+    }
 }
 
 std::string ExplanationText(const Game& game, int player, Figure figure) {
     const Explanation explanation = Explain(game, player, figure);
+    const int value = ValueOf(game, player, figure);
     std::string text = DesignOf(figure).Caption;
-    text += ' ';
-    text += std::to_string(ValueOf(game, player, figure));
+    text += ' ' + std::to_string(value);
+    // Setup can change the number of players without computing the figures again.
+    if (Sum(explanation.Parts) != value) {
+        return text + ", computed for another number of players";
+    }
     std::string sign = " = ";
     for (const Part& part : explanation.Parts) {
         text += part.Amount < 0 && sign != " = " ? "\n- " : sign;
@@ -252,10 +205,10 @@ std::string ExplanationText(const Game& game, int player, Figure figure) {
 
 std::string DockText(const Game& game, int player) {
     const PlayerRecord& record = game.Player(player);
-    const std::string docks = "Space Docks " + std::to_string(record.SpaceDocks);
-    return docks + (record.Enviro
-                        ? ": " + std::to_string(record.SpaceDocks) + " influence by Enviro Comp."
-                        : ": they bring influence with Enviro Comp.");
+    return "Space Docks " + std::to_string(record.SpaceDocks) +
+           (record.Enviro ? " count as " : " would count as ") +
+           (game.Laws.LabourUnion ? "resources (Labour Union)" : "influence") +
+           (record.Enviro ? "" : " with Enviro Comp.");
 }
 
 std::string RankText(const Game& game, int place) {

@@ -30,7 +30,7 @@ struct Explanation {
         std::string Words; ///< UTF-8: "resources", "planets of Bert"
     };
 
-    std::vector<Part> Parts; ///< they add up to the figure
+    std::vector<Part> Parts; ///< they add up to the figure as it would be computed now
     std::string Law;         ///< what a law does to the figure as a whole, or empty
 };
 

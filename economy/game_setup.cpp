@@ -28,7 +28,7 @@ void SetPlayerCount(Game& game, int players) {
 void ChooseRace(Game& game, int player, Race race) {
     PlayerRecord& record = game.Player(player);
     record.Race = race;
-    TakeCostsOfRace(record);
+    SetCostsOfRace(record);
     for (PlanetRecord& planet : game.LoadedPlanets()) {
         if (planet.Owner == player) {
             planet.Owner = NeutralOwner;
@@ -43,7 +43,7 @@ void ChooseRace(Game& game, int player, Race race) {
     }
 }
 
-void TakeCostsOfRace(PlayerRecord& player) {
+void SetCostsOfRace(PlayerRecord& player) {
     const RaceTraits& traits = TraitsOf(player.Race);
     player.RedCost = traits.RedCost;
     player.BlueCost = player.YellowCost = player.GreenCost = traits.OtherCosts;
@@ -57,8 +57,8 @@ void AssignPlanetByName(Game& game, std::string_view name, int player) {
     }
 }
 
-void StartGame(Game& game) {
-    game.Started = true;
+void StartGame(Game& game, std::int64_t now) {
+    game.StartTime = now;
 }
 
 } // namespace ksm

@@ -14,11 +14,11 @@ void SetPlayerCount(Game& game, int players);
 /// home planets, after all planets that the player held have gone back to the pool.
 void ChooseRace(Game& game, int player, Race race);
 /// Gives the player the base costs of the present race.
-void TakeCostsOfRace(PlayerRecord& player);
+void SetCostsOfRace(PlayerRecord& player);
 /// Gives every loaded planet of exactly this name to the player, whoever owned it.
 void AssignPlanetByName(Game& game, std::string_view name, int player);
 
-/// Ends setup for good.
-void StartGame(Game& game);
+/// Ends setup for good, at this time in milliseconds since 1970.
+void StartGame(Game& game, std::int64_t now);
 
 } // namespace ksm

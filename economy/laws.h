@@ -5,9 +5,14 @@
 
 namespace ksm {
 
-/// Switches Labour Union on or off; the figures follow with the next UpdateValues.
-void MenuLabour_Click(Game& game);
-/// Switches the house rule on or off; the order of play follows with the next TurnOrder.
-void MenuOrlen_Click(Game& game);
+/// The figures follow with the next UpdateValues.
+inline void ToggleLabourUnion(Game& game) {
+    game.Laws.LabourUnion = !game.Laws.LabourUnion;
+}
+
+/// The order of play follows with the next TurnOrder.
+inline void ToggleOrlenHouseRules(Game& game) {
+    game.Laws.OrlenHouseRules = !game.Laws.OrlenHouseRules;
+}
 
 } // namespace ksm

@@ -9,8 +9,10 @@
 #include "controls/spin_bar.h"
 #include "economy/column_place.h"
 #include "economy/game_setup.h"
+#include "economy/recompute.h"
 #include "economy/tech_boxes.h"
 #include "model/player_labels.h"
+#include "model/technology.h"
 
 #include <QCheckBox>
 
@@ -75,11 +77,12 @@ CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, con
     return label;
 }
 
-QCheckBox* PlayerColumn::MakeBox(const char* name, const char* heading, int top) {
+QCheckBox* PlayerColumn::MakeBox(const char* name, const Technology& technology, int top) {
     auto* box = new QCheckBox(window);
     box->setObjectName(ElementName(name, player));
     box->setGeometry(0, top, 17, 17);
-    box->setAccessibleName(Heading(heading));
+    box->setAccessibleName(Heading(technology.Caption));
+    box->setToolTip(technology.Tip);
     return box;
 }
 
@@ -130,16 +133,27 @@ void PlayerColumn::MakeDocks() {
 }
 
 void PlayerColumn::MakeTechnologies() {
-    Enviro = MakeBox("Enviro", "Enviro Comp.", 322);
-    PellamTools = MakeBox("PellamTools", "Pellam Tools", 336);
-    Micro = MakeBox("Micro", "Micro Tech.", 350);
+    Enviro = MakeBox("Enviro", EnviroComp, 322);
+    PellamTools = MakeBox("PellamTools", ksm::PellamTools, 336);
+    Micro = MakeBox("Micro", MicroTech, 350);
     new FocusGroup({Enviro, PellamTools, Micro}, FocusGroup::Keys::Arrows, this);
     connect(Enviro, &QCheckBox::toggled, this, &PlayerColumn::Enviro_Click);
     connect(PellamTools, &QCheckBox::toggled, this, &PlayerColumn::PellamTools_Click);
     connect(Micro, &QCheckBox::toggled, this, &PlayerColumn::Micro_Click);
 }
 
-void PlayerColumn::Place() {
+void PlayerColumn::ShowGame() {
+    const bool inGame = player <= game.NumPlayers;
+    // It lies over the race label until the game starts.
+    Race->setVisible(inGame && !game.Started());
+    if (inGame) {
+        ShowPlace();
+        ShowPlayer();
+        ShowValues();
+    }
+}
+
+void PlayerColumn::ShowPlace() {
     const ColumnPlace place = PlaceOfColumn(player, game.NumPlayers);
     PlayerName->setGeometry(place.Left, PlayerName->y(), place.NameWidth, PlayerName->height());
     RaceLabel->setGeometry(place.Left, RaceLabel->y(), place.NameWidth, RaceLabel->height());
@@ -151,21 +165,6 @@ void PlayerColumn::Place() {
     MoveTo(place.FigureLeft + 3, {SpaceDocks});
     MoveTo(place.FigureLeft + 19, {DockScroll});
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});
-}
-
-void PlayerColumn::SetVisible(bool visible) {
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             PlayerName, StatLine, RaceLabel, SpaceDocks, DockScroll, Enviro, PellamTools, Micro}) {
-        control->setVisible(visible);
-    }
-    for (CaptionLabel* figure : Figures) {
-        figure->setVisible(visible);
-    }
-    ShowPhase();
-}
-
-void PlayerColumn::ShowPhase() {
-    Race->setVisible(!game.Started && player <= game.NumPlayers);
 }
 
 void PlayerColumn::ShowPlayer() {
@@ -182,10 +181,6 @@ void PlayerColumn::ShowValues() {
     }
     SpaceDocks->SetCaption(QString::number(Record().SpaceDocks));
     DockScroll->setValue(MaxSpaceDocks - Record().SpaceDocks);
-    ShowTechBoxes();
-}
-
-void PlayerColumn::ShowTechBoxes() {
     Enviro->setChecked(Record().Enviro);
     PellamTools->setChecked(Record().PellamTools);
     PellamTools->setEnabled(Record().PellamToolsEnabled);
@@ -193,22 +188,16 @@ void PlayerColumn::ShowTechBoxes() {
     Micro->setEnabled(Record().MicroEnabled);
 }
 
-QWidget* PlayerColumn::Name() const {
-    return PlayerName;
-}
-
-QWidget* PlayerColumn::Docks() const {
-    return DockScroll;
-}
-
-QPoint PlayerColumn::NamePlace() const {
-    return PlayerName->pos();
+QWidgetList PlayerColumn::PlayerControls() const {
+    QWidgetList controls{PlayerName, StatLine, RaceLabel,   SpaceDocks,
+                         DockScroll, Enviro,   PellamTools, Micro};
+    controls.append({Figures.begin(), Figures.end()});
+    return controls;
 }
 
 void PlayerColumn::Race_Click(int index) {
     ChooseRace(game, player, static_cast<ksm::Race>(index));
-    ShowPlayer();
-    emit InputChanged();
+    Recompute(game);
     emit Changed();
 }
 
@@ -224,32 +213,31 @@ void PlayerColumn::DockScroll_Change(int value) {
 }
 
 void PlayerColumn::SpaceDocks_Change() {
-    emit InputChanged();
+    Recompute(game);
     emit Changed();
 }
 
 void PlayerColumn::Enviro_Click(bool checked) {
     if (checked != Record().Enviro) {
         Record().Enviro = checked;
-        emit InputChanged();
+        Recompute(game);
         UpdateTechBoxes(Record());
-        ShowTechBoxes();
         emit Changed();
     }
 }
 
 void PlayerColumn::PellamTools_Click(bool checked) {
-    if (checked != Record().PellamTools) {
-        Record().PellamTools = checked;
-        emit InputChanged();
-        emit Changed();
-    }
+    Tick(Record().PellamTools, checked);
 }
 
 void PlayerColumn::Micro_Click(bool checked) {
-    if (checked != Record().Micro) {
-        Record().Micro = checked;
-        emit InputChanged();
+    Tick(Record().Micro, checked);
+}
+
+void PlayerColumn::Tick(bool& owned, bool checked) {
+    if (checked != owned) {
+        owned = checked;
+        Recompute(game);
         emit Changed();
     }
 }

@@ -7,9 +7,9 @@
 #include <QObject>
 #include <QRect>
 #include <QStringList>
+#include <QWidget>
 
 class QCheckBox;
-class QWidget;
 
 namespace ksm {
 
@@ -17,6 +17,7 @@ class CaptionLabel;
 class ChoiceBox;
 class LineControl;
 class SpinBar;
+struct Technology;
 
 class PlayerColumn : public QObject {
     Q_OBJECT
@@ -25,26 +26,15 @@ public:
     /// `races` are the entries of the race box, in the order of `Race`.
     PlayerColumn(Game& shown, int number, const QStringList& races, QWidget* mainWindow);
 
-    /// Places the column for the number of players.
-    void Place();
-    /// Shows or hides every control of the column.
-    void SetVisible(bool visible);
-    /// The race box of a player in the game lies over the race label until the game starts.
-    void ShowPhase();
+    /// Shows a player in the game: the place of the column, and what stands in it.
+    void ShowGame();
 
-    /// Shows name, colours and race.
-    void ShowPlayer();
-    /// Shows figures, docks and technologies.
-    void ShowValues();
-
-    QWidget* Name() const;
-    QWidget* Docks() const;
-    /// Top left corner of the name label, in pixels of the window.
-    QPoint NamePlace() const;
+    CaptionLabel* Name() const { return PlayerName; }
+    SpinBar* Docks() const { return DockScroll; }
+    /// What is seen while the player is in the game; the race box shows itself.
+    QWidgetList PlayerControls() const;
 
 signals:
-    /// An input of the figures changed: they are recomputed and shown before this returns.
-    void InputChanged();
     /// What the user did is done.
     void Changed();
     void NameClicked(int player);
@@ -55,7 +45,7 @@ private:
     void MakeDocks();
     void MakeTechnologies();
     CaptionLabel* MakeLabel(const char* name, const char* heading, const QRect& place);
-    QCheckBox* MakeBox(const char* name, const char* heading, int top);
+    QCheckBox* MakeBox(const char* name, const Technology& technology, int top);
     QString Heading(const char* row) const;
 
     void Race_Click(int index);
@@ -64,7 +54,10 @@ private:
     void Enviro_Click(bool checked);
     void PellamTools_Click(bool checked);
     void Micro_Click(bool checked);
-    void ShowTechBoxes();
+    void Tick(bool& owned, bool checked);
+    void ShowPlace();
+    void ShowPlayer();
+    void ShowValues();
 
     PlayerRecord& Record() { return game.Player(player); }
 

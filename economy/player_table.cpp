@@ -2,6 +2,8 @@
 
 #include "controls/caption_label.h"
 #include "controls/focus_group.h"
+#include "controls/spin_bar.h"
+#include "model/technology.h"
 
 namespace ksm {
 
@@ -10,6 +12,7 @@ namespace {
 struct RowHeading {
     const char* Caption = "";
     QRect Place;
+    const char* Tip = "";
 };
 
 constexpr std::array<RowHeading, 10> RowHeadings{{
@@ -18,9 +21,9 @@ constexpr std::array<RowHeading, 10> RowHeadings{{
     {"Planets", {0, 264, 57, 17}},
     {"Receive Credits", {0, 280, 81, 17}},
     {"Space Docks", {0, 301, 73, 17}},
-    {"Enviro Comp.", {0, 322, 81, 13}},
-    {"Pellam Tools", {0, 336, 71, 13}},
-    {"Micro Tech.", {0, 350, 57, 13}},
+    {EnviroComp.Caption, {0, 322, 81, 13}, EnviroComp.Tip},
+    {PellamTools.Caption, {0, 336, 71, 13}, PellamTools.Tip},
+    {MicroTech.Caption, {0, 350, 57, 13}, MicroTech.Tip},
     {"Technology", {0, 392, 65, 18}},
     {"Costs", {0, 408, 65, 18}},
 }};
@@ -40,13 +43,13 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
         auto* label = new CaptionLabel(QString(), heading.Place, window);
         label->SetAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->SetCaption(heading.Caption);
+        label->SetExplanation([&heading] { return std::string(heading.Tip); });
     }
     const QStringList races = RaceNames();
     QList<QWidget*> names;
     QList<QWidget*> docks;
     for (int player = 1; player <= MaxPlayers; ++player) {
         auto* column = new PlayerColumn(game, player, races, window);
-        connect(column, &PlayerColumn::InputChanged, this, &PlayerTable::InputChanged);
         connect(column, &PlayerColumn::Changed, this, &PlayerTable::Changed);
         connect(column, &PlayerColumn::NameClicked, this, &PlayerTable::NameClicked);
         columns[player] = column;
@@ -58,15 +61,9 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
     new FocusGroup(docks, FocusGroup::Keys::LeftAndRight, this);
 }
 
-void PlayerTable::ShowPhase() {
+void PlayerTable::ShowGame() {
     for (PlayerColumn* column : columns) {
-        column->ShowPhase();
-    }
-}
-
-void PlayerTable::ShowValues() {
-    for (PlayerColumn* column : columns) {
-        column->ShowValues();
+        column->ShowGame();
     }
 }
 

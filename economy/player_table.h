@@ -13,16 +13,11 @@ class PlayerTable : public QObject {
 public:
     PlayerTable(Game& game, QWidget* window);
 
-    PlayerColumn& Column(int player) { return *columns[player]; }
-
-    /// Shows the race boxes until the game starts.
-    void ShowPhase();
-    /// Shows the figures, docks and technologies of all players.
-    void ShowValues();
+    /// Shows the columns of the players in the game.
+    void ShowGame();
+    const PlayerColumn& Column(int player) const { return *columns[player]; }
 
 signals:
-    /// An input of the figures changed: they are recomputed and shown before this returns.
-    void InputChanged();
     /// What the user did is done.
     void Changed();
     void NameClicked(int player);

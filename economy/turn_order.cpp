@@ -11,8 +11,8 @@ namespace {
 
 /// Whether player `one` moves before player `other`.
 bool MovesBefore(const Game& game, int one, int other) {
-    const PlayerRecord& a = game.Player(one);
-    const PlayerRecord& b = game.Player(other);
+    const PlayerFigures& a = game.Player(one).Figures;
+    const PlayerFigures& b = game.Player(other).Figures;
     if (a.Influence != b.Influence) {
         return a.Influence > b.Influence;
     }
@@ -34,8 +34,8 @@ void TurnOrder(Game& game) {
         const PlayerRecord& record = game.Player(player);
         *row++ = {.Player = player,
                   .Name = record.Name,
-                  .Resources = record.Resources,
-                  .Influence = record.Influence,
+                  .Resources = record.Figures.Resources,
+                  .Influence = record.Figures.Influence,
                   .Italic = record.Race == Race::Dravik && TradePartners(game, player).none()};
     }
 }

@@ -78,10 +78,12 @@ TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
     return row;
 }
 
-void TurnOrderTable::ShowTurnOrder() {
-    int number = 0;
-    for (const TurnOrderRow& ranked : game.TurnOrderRows) {
-        const Row& row = rows[++number];
+void TurnOrderTable::ShowGame() {
+    // The setup panel covers it; the focus must not get below.
+    setEnabled(game.Started());
+    for (int number = 1; number <= game.NumPlayers; ++number) {
+        const TurnOrderRow& ranked = game.TurnOrderRows.at(static_cast<std::size_t>(number - 1));
+        const Row& row = rows[number];
         row.PolPlay->SetCaption(QString::fromStdString(ranked.Name));
         row.PRes->SetCaption(QString::number(ranked.Resources));
         row.PInf->SetCaption(QString::number(ranked.Influence));
@@ -91,10 +93,8 @@ void TurnOrderTable::ShowTurnOrder() {
     }
 }
 
-void TurnOrderTable::SetRowVisible(int row, bool visible) {
-    for (CaptionLabel* label : {rows[row].PolPlay, rows[row].PRes, rows[row].PInf}) {
-        label->setVisible(visible);
-    }
+QWidgetList TurnOrderTable::PlayerControls(int row) const {
+    return {rows[row].PolPlay, rows[row].PRes, rows[row].PInf};
 }
 
 } // namespace ksm

@@ -18,8 +18,9 @@ public:
     TurnOrderTable(const Game& shown, QWidget* parent);
 
     /// Shows the players as they were last ranked.
-    void ShowTurnOrder();
-    void SetRowVisible(int row, bool visible);
+    void ShowGame();
+    /// The controls of a row 1..10, which are seen as long as there are that many players.
+    QWidgetList PlayerControls(int row) const;
 
 private:
     struct Row {

@@ -50,7 +50,7 @@ int CountPlanets(const Holding& holding) {
     return std::reduce(holding.Planets.begin(), holding.Planets.end());
 }
 
-void TakeHolding(PlayerRecord& player, const Holding& holding, int pellamTools) {
+void SetPlanetFigures(PlayerFigures& player, const Holding& holding, int pellamTools) {
     const auto resources = [&](Specialty specialty) {
         const auto place = static_cast<std::size_t>(specialty);
         return holding.Resources[place] + pellamTools * holding.Planets[place];
@@ -66,28 +66,29 @@ void TakeHolding(PlayerRecord& player, const Holding& holding, int pellamTools) 
 }
 
 void ComputeCosts(const Game& game, PlayerRecord& player) {
-    player.RedDiscount = std::min<int>(player.RedDiscount, player.RedCost);
-    player.BlueDiscount = std::min<int>(player.BlueDiscount, player.BlueCost);
-    player.GreenDiscount = std::min<int>(player.GreenDiscount, player.GreenCost);
-    player.RedTech = player.RedCost - player.RedDiscount + game.RedModifier - NeutralModifier;
-    player.BlueTech = player.BlueCost - player.BlueDiscount + game.BlueModifier - NeutralModifier;
-    player.GreenTech =
-        player.GreenCost - player.GreenDiscount + game.GreenModifier - NeutralModifier;
-    player.YellowTech = player.YellowCost + game.YellowModifier - NeutralModifier;
+    PlayerFigures& figures = player.Figures;
+    figures.RedDiscount = std::min<int>(figures.RedDiscount, player.RedCost);
+    figures.BlueDiscount = std::min<int>(figures.BlueDiscount, player.BlueCost);
+    figures.GreenDiscount = std::min<int>(figures.GreenDiscount, player.GreenCost);
+    figures.RedTech = player.RedCost - figures.RedDiscount + game.RedModifier - NeutralModifier;
+    figures.BlueTech = player.BlueCost - figures.BlueDiscount + game.BlueModifier - NeutralModifier;
+    figures.GreenTech =
+        player.GreenCost - figures.GreenDiscount + game.GreenModifier - NeutralModifier;
+    figures.YellowTech = player.YellowCost + game.YellowModifier - NeutralModifier;
 }
 
 void ComputePlayer(Game& game, int number) {
-    PlayerRecord& player = game.Player(number);
-    player.Influence +=
+    PlayerFigures& figures = game.Player(number).Figures;
+    figures.Influence +=
         EnviroCompBonus(game, number) + OrrunBonus(game, number) + AltheranBonus(game, number);
     if (game.Laws.LabourUnion) {
-        std::swap(player.Resources, player.Influence);
-        player.PlanetResources = player.Resources;
+        std::swap(figures.Resources, figures.Influence);
+        figures.PlanetResources = figures.Resources;
     }
     const PartnerSet partners = TradePartners(game, number);
-    player.Credits = player.PlanetResources + TradeBonus(game, number, partners) +
-                     FreeTradeBonus(game, partners) + MicroTechBonus(game, number, partners);
-    ComputeCosts(game, player);
+    figures.Credits = figures.PlanetResources + TradeBonus(game, number, partners) +
+                      FreeTradeBonus(game, partners) + MicroTechBonus(game, number, partners);
+    ComputeCosts(game, game.Player(number));
 }
 
 } // namespace
@@ -96,10 +97,10 @@ void UpdateValues(Game& game) {
     game.TradeCount = CountAgreements(game.TradeAgreements);
     const Holdings holdings = AddUpPlanets(game);
     // The pool's planets are counted, and bring nothing.
-    game.Player(NeutralOwner).PlanetCount = CountPlanets(holdings[NeutralOwner]);
+    game.Player(NeutralOwner).Figures.PlanetCount = CountPlanets(holdings[NeutralOwner]);
     for (int number = 1; number <= MaxPlayers; ++number) {
-        TakeHolding(game.Player(number), holdings[static_cast<std::size_t>(number)],
-                    PellamToolsBonus(game, number));
+        SetPlanetFigures(game.Player(number).Figures, holdings[static_cast<std::size_t>(number)],
+                         PellamToolsBonus(game, number));
     }
     for (int number = 1; number <= MaxPlayers; ++number) {
         ComputePlayer(game, number);

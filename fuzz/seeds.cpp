@@ -20,7 +20,7 @@ bool Write(const QString& folder, const QString& name, const QByteArray& bytes) 
 // Small games keep the fuzzer quick.
 ksm::GameState SmallGame() {
     ksm::GameState game;
-    ksm::TakePlanets(game, ksm::ReadPlanetList("Ith,2,1,b\r\nVeran").Planets);
+    ksm::SetPlanets(game.Game, *ksm::ReadPlanetList("Ith,2,1,b\r\nVeran"));
     return game;
 }
 
@@ -35,8 +35,8 @@ int main(int argc, char* argv[]) {
     const std::array planetLists{"'comment\r\nAlpha,2,1,blue\r\nBeta,2.5,&HfF,G\r\n",
                                  "\xEF\xBB\xBFZo\xC3\xAB,1e2,-.5D+1,r\r\rx,&O17,300",
                                  "Zo\xEB\x80, 1 2,\t3\n,Red,more"};
-    bool done = Write(games, "sample", WriteGame(ksm::SampleGame())) &&
-                Write(games, "small", WriteGame(SmallGame())) &&
+    bool done = Write(games, "sample", *WriteGame(ksm::SampleGame())) &&
+                Write(games, "small", *WriteGame(SmallGame())) &&
                 Write(lists, "many", QByteArray("P,1,2,b\r\n").repeated(102));
     for (const char* list : planetLists) {
         done = done && Write(lists, QString("list%1").arg(qstrlen(list)), list);

@@ -1,24 +1,14 @@
 #include "model/change.h"
 
 #include "model/player_labels.h"
+#include "model/technology.h"
 
-#include <algorithm>
+#include <array>
 #include <vector>
 
 namespace ksm {
 
 namespace {
-
-using Descriptions = std::vector<std::string>;
-
-/// A technology of a player, by the caption of its row.
-struct Technology {
-    const char* Caption;
-    bool PlayerRecord::*Owned;
-};
-constexpr std::array<Technology, 3> Technologies{{{"Enviro Comp.", &PlayerRecord::Enviro},
-                                                  {"Pellam Tools", &PlayerRecord::PellamTools},
-                                                  {"Micro Tech.", &PlayerRecord::Micro}}};
 
 struct Law {
     const char* Caption;
@@ -29,174 +19,84 @@ constexpr std::array<Law, 4> Laws{{{"Labour Union", &LawMarks::LabourUnion},
                                    {"Trade Restrictions", &LawMarks::TradeRestrictions},
                                    {"Orlen house rules", &LawMarks::OrlenHouseRules}}};
 
-/// Compares the two games topic by topic.
-class Comparison {
-public:
-    Comparison(const Game& earlier, const Game& later) : before(earlier), after(later) {}
+using Descriptions = std::vector<std::string>;
 
-    std::string Describe() const {
-        const Descriptions found = Races();
-        Descriptions others = Setup();
-        for (const Descriptions& topic : {Names(), Docks(), Marks(), Trade(), Modifiers()}) {
-            others.insert(others.end(), topic.begin(), topic.end());
-        }
-        // A race brings planets and Enviro Comp. with it.
-        if (found.size() == 1 && others.empty()) {
-            return found.front();
-        }
-        for (const Descriptions& topic : {found, Boxes(), Owners()}) {
-            others.insert(others.end(), topic.begin(), topic.end());
-        }
-        return others.size() == 1 ? others.front() : "Load Game";
+void NoteIf(bool differs, Descriptions& found, const std::string& what) {
+    if (differs) {
+        found.push_back(what);
     }
+}
 
-private:
-    /// One description for each player for whom `differ` finds a difference.
-    template<typename Differ>
-    Descriptions ForPlayers(const Differ& differ) const {
-        Descriptions found;
-        for (int player = 1; player <= MaxPlayers; ++player) {
-            const std::string what = differ(before.Player(player), after.Player(player));
-            if (!what.empty()) {
-                found.push_back(what + ", " + SpokenName(after, player));
-            }
-        }
-        return found;
+void Append(Descriptions& found, const Descriptions& more) {
+    found.insert(found.end(), more.begin(), more.end());
+}
+
+const char* SelectionName(TradeMode mode) {
+    switch (mode) {
+    case TradeMode::RemoveFirst:
+    case TradeMode::RemovePartner:
+        return "Remove";
+    case TradeMode::IndependenceFirst:
+    case TradeMode::IndependenceSecond:
+        return "Economic Independance";
+    default:
+        return "Add";
     }
+}
 
-    Descriptions Setup() const {
-        Descriptions found;
-        if (before.NumPlayers != after.NumPlayers) {
-            found.push_back(std::to_string(after.NumPlayers) + " players");
-        }
-        if (before.Started != after.Started || before.NumPlanets != after.NumPlanets) {
-            found.insert(found.end(), 2, "Load Game");
-        }
-        return found;
-    }
-
-    Descriptions Races() const {
-        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) {
-            return was.Race == is.Race ? std::string() : std::string(TraitsOf(is.Race).Caption);
-        });
-    }
-
-    Descriptions Names() const {
-        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
-            if (was.Name != is.Name || was.Named != is.Named || was.ShortName != is.ShortName) {
-                return "name";
-            }
-            const bool coloured =
-                was.NameColours != is.NameColours || was.TradeColours != is.TradeColours;
-            return coloured ? "colour" : "";
-        });
-    }
-
-    Descriptions Docks() const {
-        return ForPlayers([](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
-            return was.SpaceDocks == is.SpaceDocks ? "" : "Space Docks";
-        });
-    }
-
-    Descriptions Boxes() const {
-        Descriptions found;
-        for (const Technology& technology : Technologies) {
-            const Descriptions ticked =
-                ForPlayers([&](const PlayerRecord& was, const PlayerRecord& is) -> std::string {
-                    return was.*technology.Owned == is.*technology.Owned ? "" : technology.Caption;
-                });
-            found.insert(found.end(), ticked.begin(), ticked.end());
-        }
-        return found;
-    }
-
-    Descriptions Owners() const {
-        Descriptions found;
-        for (std::size_t planet = 0; planet < before.Planets.size(); ++planet) {
-            const PlanetRecord& is = after.Planets[planet];
-            if (before.Planets[planet] != is) {
-                found.push_back(is.Name + " to " + OwnerName(after, is.Owner));
-            }
-        }
-        return found;
-    }
-
-    Descriptions Marks() const {
-        Descriptions found;
-        for (const auto& [caption, inForce] : Laws) {
-            if (before.Laws.*inForce != after.Laws.*inForce) {
-                found.emplace_back(caption);
-            }
-        }
-        return found;
-    }
-
-    // A selection is one thing with all that its clicks lead to.
-    Descriptions Trade() const {
-        const bool independence =
-            before.Laws.EconomicIndependence != after.Laws.EconomicIndependence ||
-            before.IndepFirst != after.IndepFirst || before.IndepSecond != after.IndepSecond;
-        if (independence) {
-            return {"Economic Independance"};
-        }
-        const Descriptions agreements = Agreements();
-        if (!agreements.empty()) {
-            return agreements.size() == 1 ? agreements : Descriptions{"Trade Stop"};
-        }
-        if (before.TradeMode != after.TradeMode) {
-            return {SelectionName(after.TradeMode == TradeMode::Idle ? before.TradeMode
-                                                                     : after.TradeMode)};
-        }
-        return before.TradeStrokes == after.TradeStrokes ? Descriptions()
-                                                         : Descriptions{"Trade Stop"};
-    }
-
-    static const char* SelectionName(TradeMode mode) {
-        switch (mode) {
-        case TradeMode::RemoveFirst:
-        case TradeMode::RemovePartner:
-            return "Remove";
-        case TradeMode::IndependenceFirst:
-        case TradeMode::IndependenceSecond:
-            return "Economic Independance";
-        default:
-            return "Add";
+Descriptions Agreements(const Game& before, const Game& after) {
+    Descriptions found;
+    for (int maker = 1; maker <= MaxPlayers; ++maker) {
+        for (int partner = 1; partner <= MaxPlayers; ++partner) {
+            const bool begins = after.Cell(maker, partner) != NoAgreement;
+            NoteIf(before.Cell(maker, partner) != after.Cell(maker, partner), found,
+                   (begins ? "agreement of " : "end of the agreement of ") +
+                       SpokenName(after, maker) + " and " + SpokenName(after, partner));
         }
     }
+    return found;
+}
 
-    Descriptions Agreements() const {
-        Descriptions found;
-        for (int maker = 1; maker <= MaxPlayers; ++maker) {
-            for (int partner = 1; partner <= MaxPlayers; ++partner) {
-                if (before.Cell(maker, partner) != after.Cell(maker, partner)) {
-                    found.push_back("agreement of " + SpokenName(after, maker) + " and " +
-                                    SpokenName(after, partner));
-                }
-            }
-        }
-        return found;
+// A selection is one thing with all that its clicks lead to.
+Descriptions Trade(const Game& before, const Game& after) {
+    if (before.Laws.EconomicIndependence != after.Laws.EconomicIndependence ||
+        before.IndepFirst != after.IndepFirst || before.IndepSecond != after.IndepSecond) {
+        return {{"Economic Independance"}};
     }
-
-    Descriptions Modifiers() const {
-        const auto modifiers = [](const Game& game) {
-            return std::array{game.GreenModifier, game.BlueModifier, game.YellowModifier,
-                              game.RedModifier};
-        };
-        return modifiers(before) == modifiers(after) ? Descriptions()
-                                                     : Descriptions{"Tech Modifiers"};
+    const Descriptions agreements = Agreements(before, after);
+    // Only its message tells it from the end of the last agreement.
+    if (!agreements.empty() && !after.TradeInfo.ends_with("TRADE STOP!")) {
+        return agreements;
     }
+    Descriptions found;
+    if (agreements.empty() && before.TradeMode != after.TradeMode) {
+        const bool isOver = after.TradeMode == TradeMode::Idle;
+        found.push_back(SelectionName(isOver ? before.TradeMode : after.TradeMode));
+    } else {
+        NoteIf(before.TradeStrokes != after.TradeStrokes || !agreements.empty(), found,
+               "Trade Stop");
+    }
+    return found;
+}
 
-    const Game& before;
-    const Game& after;
-};
+auto Modifiers(const Game& game) {
+    return std::array{game.GreenModifier, game.BlueModifier, game.YellowModifier, game.RedModifier};
+}
+
+bool IsNamedAnew(const PlayerRecord& was, const PlayerRecord& is) {
+    return was.Name != is.Name || was.Named != is.Named || was.ShortName != is.ShortName;
+}
+
+bool IsColouredAnew(const PlayerRecord& was, const PlayerRecord& is) {
+    return was.NameColours != is.NameColours || was.TradeColours != is.TradeColours;
+}
 
 } // namespace
 
 bool IsChange(const Game& before, const Game& after) {
     Game same = before;
     for (int slot = 0; slot < OwnerSlots; ++slot) {
-        const PlayerFigures& figures = after.Player(slot);
-        static_cast<PlayerFigures&>(same.Player(slot)) = figures;
+        same.Player(slot).Figures = after.Player(slot).Figures;
     }
     same.TradeCount = after.TradeCount;
     same.TurnOrderRows = after.TurnOrderRows;
@@ -208,7 +108,43 @@ bool IsChange(const Game& before, const Game& after) {
 }
 
 std::string DescribeChange(const Game& before, const Game& after) {
-    return Comparison(before, after).Describe();
+    Descriptions races;
+    Descriptions others;
+    Descriptions effects; // what a race brings with it, too
+    NoteIf(before.NumPlayers != after.NumPlayers, others,
+           std::to_string(after.NumPlayers) + " players");
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        const PlayerRecord& was = before.Player(player);
+        const PlayerRecord& is = after.Player(player);
+        const std::string whose = ", " + SpokenName(after, player);
+        NoteIf(was.Race != is.Race, races, std::string(TraitsOf(is.Race).Caption) + whose);
+        NoteIf(IsNamedAnew(was, is), others, "name" + whose);
+        NoteIf(IsColouredAnew(was, is) && !IsNamedAnew(was, is), others, "colour" + whose);
+        NoteIf(was.SpaceDocks != is.SpaceDocks, others, "Space Docks" + whose);
+        for (const Technology& technology : Technologies) {
+            NoteIf(was.*technology.Owned != is.*technology.Owned, effects,
+                   technology.Caption + whose);
+        }
+    }
+    for (const auto& [caption, inForce] : Laws) {
+        NoteIf(before.Laws.*inForce != after.Laws.*inForce, others, caption);
+    }
+    Append(others, Trade(before, after));
+    NoteIf(Modifiers(before) != Modifiers(after), others, "Tech Modifiers");
+    for (std::size_t slot = 0; slot < after.Planets.size(); ++slot) {
+        const PlanetRecord& planet = after.Planets[slot];
+        NoteIf(before.Planets[slot] != planet, effects,
+               planet.Name + " to " + OwnerName(after, planet.Owner));
+    }
+    Descriptions all = races;
+    Append(all, others);
+    if (all.size() != 1 || races.empty()) {
+        Append(all, effects);
+    }
+    if (all.size() < 2) {
+        return all.empty() ? "change" : all.front();
+    }
+    return all.front() + " and " + std::to_string(all.size() - 1) + " more";
 }
 
 } // namespace ksm

@@ -10,8 +10,8 @@ namespace ksm {
 /// Whether the game changed in anything but prompts, results and what the rules compute.
 bool IsChange(const Game& before, const Game& after);
 
-/// Names the one thing that was done: "Pellam Tools, Dora", "Caldry to Emil". Where several were,
-/// another game was loaded: "Load Game". UTF-8; for two games between which there is a change.
+/// Says what differs: "Pellam Tools, Dora", "Caldry to Emil and 2 more". UTF-8; for two games
+/// between which there is a change.
 std::string DescribeChange(const Game& before, const Game& after);
 
 } // namespace ksm

@@ -53,8 +53,9 @@ struct Game {
     PlanetTable Planets;
     int NumPlanets = 0; ///< loaded planets, in slots 0..NumPlanets - 1
 
-    int NumPlayers = 6;   ///< 2..10
-    bool Started = false; ///< whether "START" was pressed
+    int NumPlayers = 6; ///< 2..10
+    /// When "START" was pressed, in milliseconds since 1970 (UTC); 0 before. It tells games apart.
+    std::int64_t StartTime = 0;
 
     TradeTable TradeAgreements{};
     ksm::TradeMode TradeMode = ksm::TradeMode::Idle;
@@ -78,6 +79,7 @@ struct Game {
 
     bool operator==(const Game&) const = default;
 
+    bool Started() const { return StartTime != 0; }
     PlayerRecord& Player(int slot) { return Players.at(static_cast<std::size_t>(slot)); }
     const PlayerRecord& Player(int slot) const {
         return Players.at(static_cast<std::size_t>(slot));
@@ -109,7 +111,8 @@ struct GameView {
 };
 
 /// Everything that the windows show and no other part of it determines. A copy is a snapshot.
-struct GameState : Game {
+struct GameState {
+    ksm::Game Game;
     GameView View;
     std::string NotesText; ///< UTF-8
 

@@ -2,6 +2,7 @@
 
 #include "model/change.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace ksm {
@@ -20,29 +21,43 @@ bool History::BelongsToLastStep(const Game& game) const {
     if (stepHasBegun) {
         return true;
     }
-    return present > 0 && states[present].TradeMode != TradeMode::Idle &&
-           SelectionDiffers(states[present - 1], states[present]) &&
-           SelectionDiffers(states[present], game);
+    const Step& last = steps[present];
+    return present > 0 && !last.Loaded && last.After.TradeMode != TradeMode::Idle &&
+           SelectionDiffers(steps[present - 1].After, last.After) &&
+           SelectionDiffers(last.After, game);
+}
+
+void History::Append(const Step& step) {
+    steps.resize(present + 1);
+    steps.push_back(step);
+    ++present;
+    stepHasBegun = openSteps > 0;
+    canResume = false;
 }
 
 void History::Record(const Game& game) {
-    if (!IsChange(states[present], game)) {
-        states[present] = game; // prompts and figures follow
+    if (!IsChange(steps[present].After, game)) {
+        steps[present].After = game; // prompts and figures follow
         return;
     }
-    states.resize(present + 1, game);
     if (!BelongsToLastStep(game)) {
-        states.push_back(game);
-        ++present;
-        stepHasBegun = openSteps > 0;
+        Append({game});
         return;
     }
-    states[present] = game;
-    if (!IsChange(states[present - 1], game)) {
+    steps.resize(present + 1);
+    steps[present].After = game;
+    if (!IsChange(steps[present - 1].After, game)) {
         // The step ends where it began.
-        states.pop_back();
+        steps.pop_back();
         --present;
-        states[present] = game;
+        steps[present].After = game;
+        stepHasBegun = false;
+    }
+}
+
+void History::RecordLoad(const GameState& loaded, const std::string& notesBefore) {
+    if (IsChange(steps[present].After, loaded.Game) || loaded.NotesText != notesBefore) {
+        Append({loaded.Game, Notes{notesBefore, loaded.NotesText}});
         stepHasBegun = false;
     }
 }
@@ -52,36 +67,57 @@ void History::BeginStep() {
     stepHasBegun = false;
 }
 
+void History::ResumeStep() {
+    BeginStep();
+    stepHasBegun = canResume;
+}
+
 void History::EndStep() {
     assert(openSteps > 0);
     --openSteps;
+    canResume = stepHasBegun;
     stepHasBegun = stepHasBegun && openSteps > 0;
 }
 
 void History::Restart(const Game& game) {
-    states.assign(1, game);
+    steps.assign(1, {game});
     present = 0;
-    stepHasBegun = false;
+    stepHasBegun = canResume = false;
 }
 
-const Game& History::Undo() {
+void History::Undo(GameState& state) {
     assert(CanUndo());
-    stepHasBegun = false;
-    return states[--present];
+    const std::optional<Notes>& loaded = steps[present].Loaded;
+    if (loaded && state.NotesText == loaded->After) {
+        state.NotesText = loaded->Before;
+    }
+    state.Game = steps[--present].After;
+    stepHasBegun = canResume = false;
 }
 
-const Game& History::Redo() {
+void History::Redo(GameState& state) {
     assert(CanRedo());
-    stepHasBegun = false;
-    return states[++present];
+    const std::optional<Notes>& loaded = steps[++present].Loaded;
+    if (loaded && state.NotesText == loaded->Before) {
+        state.NotesText = loaded->After;
+    }
+    state.Game = steps[present].After;
+    stepHasBegun = canResume = false;
 }
 
-std::string History::UndoText() const {
-    return CanUndo() ? DescribeChange(states[present - 1], states[present]) : std::string();
+std::string History::TextOf(std::size_t step) const {
+    if (step == 0 || step >= steps.size()) {
+        return {};
+    }
+    return steps[step].Loaded ? "Load Game"
+                              : DescribeChange(steps[step - 1].After, steps[step].After);
 }
 
-std::string History::RedoText() const {
-    return CanRedo() ? DescribeChange(states[present], states[present + 1]) : std::string();
+std::vector<std::string> History::UndoTexts(std::size_t most) const {
+    std::vector<std::string> texts(std::min(most, present));
+    std::size_t step = present;
+    std::ranges::generate(texts, [&] { return TextOf(step--); });
+    return texts;
 }
 
 } // namespace ksm

@@ -41,7 +41,9 @@ struct PlayerFigures {
     bool operator==(const PlayerFigures&) const = default;
 };
 
-struct PlayerRecord : PlayerFigures {
+struct PlayerRecord {
+    PlayerFigures Figures;
+
     // What the player is called.
     std::string Name; ///< UTF-8, as typed in the name dialog
     /// Whether a name was ever typed, be it an empty one. Until then the player's labels read

@@ -7,7 +7,8 @@ namespace ksm {
 
 int BoardMaximum(const GameState& state) {
     const int owner = state.View.BoardPlayer;
-    const int planets = owner == AllPlanets ? state.NumPlanets : state.Player(owner).PlanetCount;
+    const int planets =
+        owner == AllPlanets ? state.Game.NumPlanets : state.Game.Player(owner).Figures.PlanetCount;
     return std::max(planets - BoardRowCount, 0);
 }
 
@@ -20,8 +21,8 @@ BoardRows ListBoard(const GameState& state) {
     rows.fill(NoPlanet);
     int seen = 0;
     auto row = rows.begin();
-    for (int planet = 0; planet < state.NumPlanets && row != rows.end(); ++planet) {
-        if (state.Planet(planet).Owner == state.View.BoardPlayer &&
+    for (int planet = 0; planet < state.Game.NumPlanets && row != rows.end(); ++planet) {
+        if (state.Game.Planet(planet).Owner == state.View.BoardPlayer &&
             ++seen > state.View.BoardPosition) {
             *row++ = static_cast<std::uint8_t>(planet);
         }
@@ -38,8 +39,9 @@ void ListOwner(GameState& state, int owner) {
 void RelistBoard(GameState& state) {
     state.View.MarkedRows.reset();
     const int owner = state.View.BoardPlayer;
-    const bool isThere = state.Started && (owner == AllPlanets || owner <= state.NumPlayers);
-    if (!state.Started) {
+    const bool isThere =
+        state.Game.Started() && (owner == AllPlanets || owner <= state.Game.NumPlayers);
+    if (!state.Game.Started()) {
         state.View.BoardPosition = 0;
     }
     ListOwner(state, isThere ? owner : AllPlanets);

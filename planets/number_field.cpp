@@ -17,26 +17,6 @@ struct Reading {
     std::size_t Length = 0; ///< characters that belong to the number
 };
 
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-// What a number is that no double can hold: infinite, or so small that it counts as 0.
-double BeyondDoubles(std::string_view number) {
-    const std::string_view mantissa = number.substr(0, number.find('e'));
-    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
-    std::int64_t exponent = 0;
-    if (mantissa.size() < number.size()) {
-        std::string_view digits = number.substr(mantissa.size() + 1);
-        constexpr std::int64_t Huge = 1'000'000'000'000;
-        exponent = digits.starts_with('-') ? -Huge : Huge; // where even the exponent is too long
-        digits.remove_prefix(digits.starts_with('+') ? 1 : 0);
-        std::from_chars(digits.begin(), digits.end(), exponent);
-    }
-    return point - first + exponent > 0 ? Infinite : 0;
-}
-
 // `text` is in lower case, with E for every exponent.
 Reading ReadDecimal(std::string_view text) {
     // A second sign, and words such as "inf", begin no number.
@@ -48,7 +28,8 @@ Reading ReadDecimal(std::string_view text) {
     const auto [end, error] = std::from_chars(text.begin(), text.end(), value);
     const auto length = static_cast<std::size_t>(end - text.begin());
     if (error == std::errc::result_out_of_range) {
-        value = BeyondDoubles(text.substr(0, length));
+        // So near to 0 only by a negative exponent.
+        value = text.substr(0, length).find("e-") == std::string_view::npos ? Infinite : 0;
     }
     return {value, length};
 }
@@ -63,8 +44,8 @@ Reading ReadPrefixed(std::string_view text, int base) {
             static_cast<std::size_t>(end - text.begin())};
 }
 
-Reading ReadUnsigned(std::string text) {
-    std::ranges::transform(text, text.begin(), Lower);
+Reading ReadUnsigned(std::string_view field) {
+    std::string text = LowerCase(field);
     if (text.starts_with("&h")) {
         return ReadPrefixed(text, 16);
     }
@@ -76,6 +57,14 @@ Reading ReadUnsigned(std::string text) {
 }
 
 } // namespace
+
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return lower;
+}
 
 FieldNumber ReadNumberField(std::string_view field) {
     std::string text(field);

@@ -8,14 +8,11 @@
 #include "controls/qt_values.h"
 #include "controls/shape_frame.h"
 #include "model/player_labels.h"
-#include "planets/drag_marks.h"
 #include "planets/owner_place.h"
-#include "planets/planet_transfer.h"
 
-#include <QApplication>
+#include <QWheelEvent>
 
 #include <algorithm>
-#include <utility>
 
 namespace ksm {
 
@@ -72,14 +69,14 @@ void PlanetBoard::MakeRows() {
     rows.reserve(BoardRowCount);
     QList<QWidget*> names;
     for (int row = 0; row < BoardRowCount; ++row) {
-        const PlanetLabel* name = &rows.emplace_back(row, state, this).Name();
-        connect(name, &PlanetLabel::Pressed, this, [this, row] { Take(row); });
-        connect(name, &PlanetLabel::DraggedTo, this, &PlanetBoard::DragTo);
-        connect(name, &PlanetLabel::DroppedAt, this, &PlanetBoard::DropAt);
-        connect(name, &PlanetLabel::DragCancelled, this, &PlanetBoard::CancelDrag);
+        const PlanetLabel* name = &rows.emplace_back(row, state.Game, this).Name();
+        connect(name, &PlanetLabel::Pressed, this,
+                [this, row](QPoint grip) { BeginDragging(row, grip); });
+        connect(name, &PlanetLabel::MovedTo, this, &PlanetBoard::DragTo);
+        connect(name, &PlanetLabel::ReleasedAt, this, &PlanetBoard::DropAt);
         connect(name, &PlanetLabel::Activated, this, [this, row] { PickUpOrSetDown(row); });
         connect(name, &PlanetLabel::Stepped, this,
-                [this](int step) { carried ? Carry(step) : planets->Move(step); });
+                [this](int step) { IsCarrying() ? Carry(step) : planets->Move(step); });
         connect(name, &PlanetLabel::Abandoned, this, &PlanetBoard::PutBack);
         names << &rows.back().Name();
     }
@@ -88,12 +85,16 @@ void PlanetBoard::MakeRows() {
 }
 
 void PlanetBoard::ShowGame() {
-    if (carried) {
-        Row(carried->Row).SetNote({});
-        carried.reset();
+    // The setup panel covers it; the focus must not get below.
+    setEnabled(state.Game.Started());
+    for (int player = 1; player <= state.Game.NumPlayers; ++player) {
+        CaptionLabel* label = InvasionPlayer[player];
+        label->move(0, TopOfOwner(player, state.Game.NumPlayers));
+        label->SetCaption(QString::fromStdString(OwnerCaption(state.Game, player)));
     }
     ShowList();
     ShowMarks();
+    ShowJourney();
 }
 
 void PlanetBoard::ShowList() {
@@ -121,159 +122,28 @@ void PlanetBoard::ShowMarks() {
     }
 }
 
-void PlanetBoard::PlaceOwner(int player) {
-    InvasionPlayer[player]->move(0, TopOfOwner(player, state.NumPlayers));
-}
-
-void PlanetBoard::SetOwnerVisible(int player, bool visible) {
-    InvasionPlayer[player]->setVisible(visible);
-}
-
-void PlanetBoard::ShowPlayer(int player) {
-    InvasionPlayer[player]->SetCaption(QString::fromStdString(OwnerCaption(state, player)));
+QWidgetList PlanetBoard::PlayerControls(int player) const {
+    return {InvasionPlayer.at(player)};
 }
 
 void PlanetBoard::InvasionPlayer_Click(int owner) {
-    EndCarrying();
-    List(owner);
-    emit Changed();
-}
-
-void PlanetBoard::List(int owner) {
+    StopCarrying();
     ListOwner(state, owner);
-    ShowList();
-    ShowMarks();
+    emit Changed();
 }
 
 // Also runs when the bar is moved to show the game.
 void PlanetBoard::PlanetScroller_Change(int position) {
     if (position != state.View.BoardPosition) {
-        EndCarrying();
+        StopCarrying();
         state.View.BoardPosition = position;
-        ShowList();
-        ShowMarks();
         emit Changed();
     }
 }
 
-const QWidget* PlanetBoard::SeenAt(QPoint global) const {
-    // Another window can lie over the board, which only the window system knows.
-    const QWidget* control = QApplication::widgetAt(global);
-    return control == this || isAncestorOf(control) ? control : nullptr;
-}
-
-int PlanetBoard::OwnerOf(const QWidget* control) const {
-    for (const auto& [owner, label] : InvasionPlayer) {
-        if (label == control) {
-            return owner;
-        }
-    }
-    return NoOwner;
-}
-
-bool PlanetBoard::IsBare(const QWidget* control) const {
-    return control == this || std::ranges::any_of(rows, [&](const BoardRow& row) {
-               return row.Tag() == NoPlanet && row.Holds(control);
-           });
-}
-
-void PlanetBoard::Take(int row) {
-    PutBack();
-    dragged = {.Row = row, .Tag = Row(row).Tag()};
-}
-
-void PlanetBoard::DragTo(QPoint global) {
-    const int owner = OwnerOf(SeenAt(global));
-    if (owner != NoOwner && dragged) {
-        InvasionPlayer_DragOver(owner, *dragged);
-    }
-}
-
-void PlanetBoard::DropAt(QPoint global) {
-    const std::optional<Journey> ended = std::exchange(dragged, std::nullopt);
-    const QWidget* control = SeenAt(global);
-    const int owner = OwnerOf(control);
-    if (ended && owner != NoOwner) {
-        InvasionPlayer_DragDrop(owner, *ended);
-    } else if (IsBare(control)) {
-        InvasionPic_DragDrop();
-    }
-}
-
-void PlanetBoard::CancelDrag() {
-    dragged.reset();
-    InvasionPic_DragDrop();
-}
-
-void PlanetBoard::InvasionPlayer_DragOver(int owner, Journey& journey) {
-    journey.Over = owner;
-    const GameView before = state.View;
-    MarkDragOver(state, owner, journey.Row);
-    if (state.View != before) {
-        ShowMarks();
-        emit Changed();
-    }
-}
-
-void PlanetBoard::InvasionPlayer_DragDrop(int owner, const Journey& journey) {
-    if (!AcceptsDrop(state, owner, journey.Tag)) {
-        return;
-    }
-    UnmarkAfterDrop(state, owner);
-    if (TransferPlanet(state, journey.Tag, owner)) {
-        emit InputChanged();
-        List(state.View.BoardPlayer);
-    } else {
-        ShowMarks();
-    }
-    emit Changed();
-}
-
-void PlanetBoard::InvasionPic_DragDrop() {
-    UnmarkAll(state);
-    ShowMarks();
-    emit Changed();
-}
-
-void PlanetBoard::PickUpOrSetDown(int row) {
-    if (carried) {
-        const Journey ended = *carried;
-        Row(ended.Row).SetNote({});
-        carried.reset();
-        InvasionPlayer_DragDrop(ended.Over, ended);
-    } else if (!dragged && Row(row).Tag() < state.NumPlanets) {
-        Row(row).Name().setFocus();
-        carried = {.Row = row, .Tag = Row(row).Tag()};
-        Carry(+1);
-    }
-}
-
-void PlanetBoard::Carry(int step) {
-    // Over the owners in the game, the pool first, round and round; never to the listed owner.
-    const int owners = state.NumPlayers + 1;
-    int next = carried->Over;
-    do {
-        next = (next + step + owners) % owners; // first from -1 to the pool
-    } while (next == state.View.BoardPlayer);
-    Row(carried->Row).SetNote(", over " + InvasionPlayer[next]->Caption());
-    InvasionPlayer_DragOver(next, *carried);
-}
-
-void PlanetBoard::PutBack() {
-    if (carried) {
-        EndCarrying();
-        ShowMarks();
-        emit Changed();
-    }
-}
-
-// The one who ends it shows what is left.
-void PlanetBoard::EndCarrying() {
-    if (carried) {
-        Row(carried->Row).SetNote({});
-        carried.reset();
-        UnmarkAll(state);
-    }
+// Over a planet, too, the wheel scrolls the list.
+void PlanetBoard::wheelEvent(QWheelEvent* event) {
+    static_cast<QObject*>(PlanetScroller)->event(event);
 }
 
 } // namespace ksm

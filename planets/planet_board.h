@@ -15,36 +15,36 @@ namespace ksm {
 class CaptionLabel;
 class FocusGroup;
 class FramedBar;
+class ShapeFrame;
 
-/// Picture box `InvasionPic`. Its rows change only when a view is listed; a planet that changes
-/// hands elsewhere appears at the next listing.
+/// Picture box `InvasionPic`.
 class PlanetBoard : public QWidget {
     Q_OBJECT
 
 public:
     PlanetBoard(GameState& game, QWidget* parent);
 
-    /// Shows the view of the game state with its marks.
+    /// Shows the owners, the view of the game state and its marks.
     void ShowGame();
-
-    /// Places the player's owner label for the number of players.
-    void PlaceOwner(int player);
-    void SetOwnerVisible(int player, bool visible);
-    /// Shows the player's name on the owner label.
-    void ShowPlayer(int player);
+    /// What is seen while the player is in the game.
+    QWidgetList PlayerControls(int player) const;
 
 signals:
-    /// A planet changed hands: the figures are recomputed and shown before this returns.
-    void InputChanged();
     /// What the user did is done.
     void Changed();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
 private:
-    /// A planet on its way, by mouse or by keyboard. It stays the one that was taken, whatever the
-    /// board lists meanwhile.
+    /// A planet on its way to an owner. It stays the one that was taken, whatever the board lists
+    /// meanwhile.
     struct Journey {
+        bool ByMouse;
         int Row;
         int Tag;
+        QPoint Grip{};      ///< where the pointer holds the label
         int Over = NoOwner; ///< owner under it
     };
 
@@ -52,24 +52,29 @@ private:
     void MakeRows();
     void InvasionPlayer_Click(int owner);
     void PlanetScroller_Change(int position);
-    void List(int owner);
 
-    void Take(int row);
+    void BeginDragging(int row, QPoint grip);
     void DragTo(QPoint global);
     void DropAt(QPoint global);
     void CancelDrag();
-    void InvasionPlayer_DragOver(int owner, Journey& journey);
-    void InvasionPlayer_DragDrop(int owner, const Journey& journey);
+    void StopDragging();
+    void MoveOutline(QPoint global);
+    void InvasionPlayer_DragOver(int owner);
+    void InvasionPlayer_DragDrop(int owner, int tag);
     void InvasionPic_DragDrop();
 
     void PickUpOrSetDown(int row);
     void Carry(int step);
     void PutBack();
-    void EndCarrying();
+    /// Whoever stops it says that something changed.
+    void StopCarrying();
 
     void ShowList();
     void ShowMarks();
+    void ShowJourney();
     BoardRow& Row(int row) { return rows.at(static_cast<std::size_t>(row)); }
+    bool IsDragging() const { return journey && journey->ByMouse; }
+    bool IsCarrying() const { return journey && !journey->ByMouse; }
     /// The panel or its control that is seen at this place of the screen, or null.
     const QWidget* SeenAt(QPoint global) const;
     /// The index of the owner label that this is, or `NoOwner`.
@@ -82,8 +87,8 @@ private:
     std::vector<BoardRow> rows;
     FocusGroup* planets = nullptr;
     FramedBar* PlanetScroller = nullptr;
-    std::optional<Journey> dragged; ///< by the mouse
-    std::optional<Journey> carried; ///< by the keyboard
+    ShapeFrame* outline = nullptr; ///< follows the pointer with a dragged planet
+    std::optional<Journey> journey;
 };
 
 } // namespace ksm

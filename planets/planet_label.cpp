@@ -1,9 +1,7 @@
 #include "planets/planet_label.h"
 
 #include "controls/input.h"
-#include "controls/shape_frame.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QtMath>
 
@@ -34,65 +32,22 @@ void PlanetLabel::SetPlanet(const QString& name) {
 
 void PlanetLabel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        dragged = true;
-        qApp->installEventFilter(this);
-        grip = event->position().toPoint();
-        MoveOutline(event->globalPosition().toPoint());
-        emit Pressed();
+        emit Pressed(event->position().toPoint());
     }
 }
 
 void PlanetLabel::mouseMoveEvent(QMouseEvent* event) {
-    if (dragged) {
-        const QPoint global = event->globalPosition().toPoint();
-        MoveOutline(global);
-        emit DraggedTo(global);
-    }
+    emit MovedTo(event->globalPosition().toPoint());
 }
 
 void PlanetLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (dragged && event->button() == Qt::LeftButton) {
-        StopDragging();
-        emit DroppedAt(event->globalPosition().toPoint());
+    if (event->button() == Qt::LeftButton) {
+        emit ReleasedAt(event->globalPosition().toPoint());
     }
-}
-
-// A window or a menu that opens during a drag gets the release of the mouse button, or nobody does.
-bool PlanetLabel::eventFilter(QObject* watched, QEvent* event) {
-    const auto* control = qobject_cast<QWidget*>(watched);
-    if (control && dragged) {
-        const bool opened = event->type() == QEvent::Show && control->isWindow() &&
-                            control->windowType() != Qt::ToolTip;
-        const bool released = event->type() == QEvent::MouseButtonRelease && control != this;
-        if (opened || released || event->type() == QEvent::WindowBlocked) {
-            CancelDrag();
-        }
-    }
-    return CaptionLabel::eventFilter(watched, event);
-}
-
-void PlanetLabel::StopDragging() {
-    dragged = false;
-    qApp->removeEventFilter(this);
-    outline->hide();
-}
-
-void PlanetLabel::CancelDrag() {
-    StopDragging();
-    emit DragCancelled();
-}
-
-void PlanetLabel::MoveOutline(QPoint global) {
-    if (!outline) {
-        outline = new ShapeFrame("DragOutline", rect(), 0, window());
-    }
-    outline->setGeometry(QRect(window()->mapFromGlobal(global - grip), size()));
-    outline->show();
-    outline->raise();
 }
 
 void PlanetLabel::Activate() {
-    if (!dragged && TakesInput(*this)) {
+    if (TakesInput(*this)) {
         emit Activated();
     }
 }

@@ -5,10 +5,8 @@
 
 namespace ksm {
 
-class ShapeFrame;
-
-/// Reports a drag by mouse, from press to release, and the keys that do the same by keyboard. A
-/// drag never leaves the window, and the label gets no click.
+/// Reports what the mouse does to it from press to release, and the keys that do the same by
+/// keyboard. The label gets no click.
 class PlanetLabel : public CaptionLabel {
     Q_OBJECT
 
@@ -23,12 +21,11 @@ public:
     void Activate() override;
 
 signals:
-    void Pressed();
-    /// The pointer moved to this place of the screen with the button held.
-    void DraggedTo(QPoint global);
-    void DroppedAt(QPoint global);
-    /// Something came between: a window or a menu opened, or the release of the button was lost.
-    void DragCancelled();
+    /// The left button was pressed at this place of the label.
+    void Pressed(QPoint place);
+    // With the button held, in pixels of the screen.
+    void MovedTo(QPoint global);
+    void ReleasedAt(QPoint global);
 
     /// Space or Return: picks the planet up or sets it down.
     void Activated();
@@ -38,7 +35,6 @@ signals:
     void Abandoned();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -46,14 +42,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void MoveOutline(QPoint global);
-    void StopDragging();
-    void CancelDrag();
-
     int longestName;
-    bool dragged = false;
-    QPoint grip; ///< where the pointer holds the label
-    ShapeFrame* outline = nullptr;
 };
 
 } // namespace ksm

@@ -1,22 +1,19 @@
 #include "planets/planet_list_file.h"
 
 #include "planets/number_field.h"
+#include "planets/read_file.h"
 #include "planets/text_encoding.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <fstream>
 #include <limits>
-#include <system_error>
 
 namespace ksm {
 
 namespace {
 
 constexpr int LargestFigure = std::numeric_limits<std::uint8_t>::max();
-constexpr std::uintmax_t LargestPlanetList = std::uintmax_t{1024} * 1024;
-constexpr std::size_t ProblemsShown = 10;
+constexpr int ProblemsShown = 10;
 constexpr std::size_t NumberCharactersShown = 20;
 
 std::string Range(int least, int most) {
@@ -47,28 +44,20 @@ std::string_view TakeField(std::string_view& line) {
 }
 
 Specialty SpecialtyOf(std::string_view field) {
-    std::string word(field);
-    for (char& c : word) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    if (word == "b" || word == "blue") {
-        return Specialty::Blue;
-    }
-    if (word == "g" || word == "green") {
-        return Specialty::Green;
-    }
-    if (word == "r" || word == "red") {
-        return Specialty::Red;
-    }
-    return Specialty::None;
+    constexpr std::array<std::pair<std::string_view, Specialty>, 6> words{
+        {{"b", Specialty::Blue},
+         {"blue", Specialty::Blue},
+         {"g", Specialty::Green},
+         {"green", Specialty::Green},
+         {"r", Specialty::Red},
+         {"red", Specialty::Red}}};
+    const auto found =
+        std::ranges::find(words, LowerCase(field), &decltype(words)::value_type::first);
+    return found == words.end() ? Specialty::None : found->second;
 }
 
 class LineReader {
 public:
-    explicit LineReader(PlanetListResult& into) : result(into) {}
-
     void Read(std::string_view line) {
         ++lineNumber;
         if (line.starts_with('\'')) {
@@ -79,12 +68,20 @@ public:
         planet.Resources = Figure("resources", TakeField(line));
         planet.Influence = Figure("influence", TakeField(line));
         planet.Specialty = SpecialtyOf(FieldBeforeComma(line));
-        if (++planets == MaxPlanets + 1) {
-            Report("planet " + std::to_string(planets), PlanetRange());
+        if (planets.size() < MaxPlanets) {
+            planets.push_back(std::move(planet));
+        } else if (!isTooLong) {
+            isTooLong = true; // reported once, not for every line too many
+            Report("planet " + std::to_string(MaxPlanets + 1), PlanetRange());
         }
-        if (planets <= MaxPlanets) {
-            result.Planets.push_back(std::move(planet));
+    }
+
+    Outcome<PlanetList> Result() const {
+        if (problems == 0) {
+            return planets;
         }
+        const int more = problems - ProblemsShown;
+        return Failure{more > 0 ? text + "\nand " + std::to_string(more) + " more" : text};
     }
 
 private:
@@ -98,26 +95,19 @@ private:
                Range(0, LargestFigure));
         return 0;
     }
-    void Report(std::string what, std::string allowed) {
-        result.Problems.push_back({lineNumber, std::move(what), std::move(allowed)});
+    void Report(const std::string& what, const std::string& allowed) {
+        if (++problems <= ProblemsShown) {
+            text += (text.empty() ? "Line " : "\nLine ") + std::to_string(lineNumber) + ": " +
+                    what + " (allowed: " + allowed + ")";
+        }
     }
 
-    PlanetListResult& result;
-    int lineNumber = 0;
-    int planets = 0;
-};
-
-std::string Sentence(const PlanetListProblem& problem) {
+    PlanetList planets;
     std::string text;
-    if (problem.Line > 0) {
-        text += "Line " + std::to_string(problem.Line) + ": ";
-    }
-    text += problem.What;
-    if (!problem.Allowed.empty()) {
-        text += " (allowed: " + problem.Allowed + ")";
-    }
-    return text;
-}
+    int problems = 0;
+    int lineNumber = 0;
+    bool isTooLong = false;
+};
 
 } // namespace
 
@@ -130,68 +120,43 @@ std::string_view TextAfterComma(std::string_view text) {
     return comma == std::string_view::npos ? std::string_view{} : text.substr(comma + 1);
 }
 
-PlanetListResult ReadPlanetList(std::string_view bytes) {
-    PlanetListResult result;
+Outcome<PlanetList> ReadPlanetList(std::string_view bytes) {
     const std::string text = DecodeText(bytes);
     std::string_view rest = text;
-    LineReader reader(result);
+    LineReader reader;
     while (!rest.empty()) {
         reader.Read(TakeLine(rest));
     }
-    if (result.Planets.empty() && result.Problems.empty()) {
-        const bool lineFeedsOnly =
-            text.find('\n') != std::string::npos && text.find('\r') == std::string::npos;
-        result.Problems.push_back(
-            {0, lineFeedsOnly ? "no planet, since no line ends with CR LF" : "no planet",
-             PlanetRange()});
+    Outcome<PlanetList> list = reader.Result();
+    if (!list || !list->empty()) {
+        return list;
     }
-    return result;
+    const bool lineFeedsOnly =
+        text.find('\n') != std::string::npos && text.find('\r') == std::string::npos;
+    return Failure{std::string("no planet") +
+                   (lineFeedsOnly ? ", since no line ends with CR LF" : "") +
+                   " (allowed: " + PlanetRange() + ")"};
 }
 
-PlanetListResult ReadPlanetListFile(const std::filesystem::path& path) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (!error && size > LargestPlanetList) {
-        return {{}, {{0, "the file has " + std::to_string(size) + " bytes", "1 MiB"}}};
+Outcome<PlanetList> ReadPlanetListFile(const std::filesystem::path& path) {
+    const Outcome<std::string> bytes = ReadFile(path);
+    Outcome<PlanetList> list = bytes ? ReadPlanetList(*bytes) : Failure{bytes.Reason()};
+    if (!list) {
+        return Failure{"The planet list " + path.string() + " cannot be used.\n\n" + list.Reason()};
     }
-    std::string bytes(error ? 0 : size, '\0');
-    if (!error) {
-        errno = 0;
-        std::ifstream file(path, std::ios::binary);
-        if (!file.read(bytes.data(), static_cast<std::streamsize>(size))) {
-            error.assign(errno != 0 ? errno : EIO, std::generic_category());
-        }
-    }
-    if (error) {
-        return {{}, {{0, "the file cannot be read: " + error.message(), ""}}};
-    }
-    return ReadPlanetList(bytes);
+    return list;
 }
 
-void TakePlanets(Game& game, std::span<const PlanetRecord> planets) {
+void SetPlanets(Game& game, std::span<const PlanetRecord> planets) {
     game.Planets = {};
     std::ranges::copy(planets, game.Planets.begin());
     game.NumPlanets = static_cast<int>(planets.size());
     PlayerRecord& pool = game.Player(NeutralOwner);
-    pool.PlanetCount = game.NumPlanets;
+    pool.Figures.PlanetCount = game.NumPlanets;
     pool.PlanetList = EmptyPlanetList();
     for (std::size_t i = 0; i < planets.size(); ++i) {
         pool.PlanetList.at(i) = static_cast<std::uint8_t>(i);
     }
-}
-
-std::string DescribeProblems(const std::filesystem::path& path,
-                             std::span<const PlanetListProblem> problems) {
-    std::string text = "The planet list " + path.string() + " cannot be used.\n";
-    for (const PlanetListProblem& problem :
-         problems.first(std::min(problems.size(), ProblemsShown))) {
-        text += '\n';
-        text += Sentence(problem);
-    }
-    if (problems.size() > ProblemsShown) {
-        text += "\nand " + std::to_string(problems.size() - ProblemsShown) + " more";
-    }
-    return text;
 }
 
 } // namespace ksm

@@ -27,11 +27,13 @@ std::string PlanetFiguresText(const Game& game, int planet) {
         return {};
     }
     const PlanetRecord& record = game.Planet(planet);
-    std::string text = std::to_string(record.Resources) + " resources, " +
+    std::string text = std::to_string(record.Resources) +
+                       (record.Resources == 1 ? " resource, " : " resources, ") +
                        std::to_string(record.Influence) + " influence";
     if (record.Specialty != Specialty::None) {
         text += std::string("\nmakes ") + ColourName(record.Specialty) +
                 " technology cheaper by its resources";
+        text += game.Player(record.Owner).PellamTools ? " and one more (Pellam Tools)" : "";
     }
     return text;
 }

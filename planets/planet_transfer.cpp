@@ -29,14 +29,14 @@ bool AcceptsDrop(const GameState& state, int owner, int tag) {
 
 bool TransferPlanet(GameState& state, int planet, int owner) {
     // A short list leaves rows on the board behind which there is no planet.
-    if (planet >= state.NumPlanets || state.Planet(planet).Owner == owner) {
+    if (planet >= state.Game.NumPlanets || state.Game.Planet(planet).Owner == owner) {
         return false;
     }
     const auto index = static_cast<std::uint8_t>(planet);
     const int source = state.View.BoardPlayer == AllPlanets ? NeutralOwner : state.View.BoardPlayer;
-    state.Planet(planet).Owner = static_cast<std::uint8_t>(owner);
-    Append(state.Player(owner).PlanetList, index);
-    Remove(state.Player(source).PlanetList, index);
+    state.Game.Planet(planet).Owner = static_cast<std::uint8_t>(owner);
+    Append(state.Game.Player(owner).PlanetList, index);
+    Remove(state.Game.Player(source).PlanetList, index);
     return true;
 }
 

@@ -19,10 +19,6 @@ struct CloseConversion {
 };
 using Conversion = std::unique_ptr<std::remove_pointer_t<iconv_t>, CloseConversion>;
 
-Conversion ToUtf8From(const char* encoding) {
-    return Conversion(iconv_open("UTF-8", encoding));
-}
-
 // Converts as many bytes as have a meaning in the encoding, and takes them off `bytes`.
 std::string Convert(iconv_t conversion, std::string_view& bytes) {
     std::string text;
@@ -44,8 +40,14 @@ std::string Convert(iconv_t conversion, std::string_view& bytes) {
     return text;
 }
 
+// UTF-16 has no place for what lies beyond Unicode, which iconv would let pass as UTF-8.
+bool IsUtf8(std::string_view bytes) {
+    Convert(Conversion(iconv_open("UTF-16LE", "UTF-8")).get(), bytes);
+    return bytes.empty();
+}
+
 std::string FromWindows1252(std::string_view bytes) {
-    const Conversion conversion = ToUtf8From("WINDOWS-1252");
+    const Conversion conversion(iconv_open("UTF-8", "WINDOWS-1252"));
     std::string text;
     while (!bytes.empty()) {
         text += Convert(conversion.get(), bytes);
@@ -65,9 +67,7 @@ std::string DecodeText(std::string_view bytes) {
     if (bytes.starts_with(ByteOrderMark)) {
         bytes.remove_prefix(ByteOrderMark.size());
     }
-    std::string_view rest = bytes;
-    std::string text = Convert(ToUtf8From("UTF-8").get(), rest);
-    return rest.empty() ? text : FromWindows1252(bytes);
+    return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
 }
 
 } // namespace ksm

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "model/game_state.h"
-
-#include <string>
+#include "model/outcome.h"
 
 namespace ksm {
 
-/// What play never leads to, though each member is one that is allowed: the first such thing, as a
-/// sentence that begins with the member; empty where there is none. The figures must be computed.
-std::string FindContradiction(const GameState& state);
+/// Fails for what play never leads to, though each member is one that is allowed. The reason begins
+/// with the member. The figures must be computed.
+Outcome<> CheckGame(const GameState& state);
 
 } // namespace ksm

@@ -1,99 +1,88 @@
 #include "saves/game_file.h"
 
+#include "planets/read_file.h"
+#include "saves/kept_files.h"
 #include "saves/replace_file.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
+
+#include <algorithm>
+#include <system_error>
 
 namespace ksm {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 // With "~" behind it a name has at most 255 bytes, the most that file systems take.
-constexpr qsizetype LongestName = 254;
+constexpr std::size_t LongestName = 254;
 
-// A name may begin with ":", which Qt takes for something inside the program.
-QString OnDisk(const QString& name) {
-    return name.startsWith('/') ? name : "./" + name;
+fs::path PathOf(const QString& name) {
+    return fs::path(".") / QFile::encodeName(name).toStdString();
 }
 
-QString Failure(const QString& path, const QString& reason) {
-    const QFileInfo file(path);
-    return QString(R"("%1" in the folder "%2": %3)")
-        .arg(file.fileName(), QDir::toNativeSeparators(file.absolutePath()), reason);
+Failure Explain(const fs::path& path, const std::string& reason) {
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(path, ignored).lexically_normal().parent_path();
+    return {'"' + path.filename().string() + "\" in the folder \"" + folder.string() +
+            "\": " + reason};
 }
 
-// A folder, or a pipe or device, which would be replaced by a game or read for ever.
-QString CheckFile(const QString& path) {
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile() ? "This is not a file." : QString();
+Outcome<> CheckName(const fs::path& path) {
+    if (std::ranges::find(KeptGameNames, path.filename()) != KeptGameNames.end()) {
+        return Failure{"The program itself keeps games under this name. Choose another one."};
+    }
+    const std::size_t bytes = path.filename().native().size();
+    return bytes <= LongestName ? Outcome()
+                                : Failure{"The name has " + std::to_string(bytes) + " bytes, but " +
+                                          std::to_string(LongestName) + " are the most possible."};
 }
 
-QString CheckName(const QString& path) {
-    const qsizetype bytes = QFile::encodeName(QFileInfo(path).fileName()).size();
-    return bytes <= LongestName ? QString()
-                                : QString("The name has %1 bytes, but %2 are the most possible.")
-                                      .arg(bytes)
-                                      .arg(LongestName);
-}
-
-// Whether saving again changes nothing, so that an older game is kept rather than this one.
-bool Holds(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    return file.size() == content.size() && file.open(QIODevice::ReadOnly) &&
-           file.readAll() == content;
-}
-
-QString Save(const QString& path, const GameState& state) {
-    const QByteArray content = WriteGame(state);
-    if (content.size() > LargestGameFile) {
-        return "The game is larger than 1 MiB, the most that a saved game can hold. "
-               "Shorten the notes.";
+Outcome<> Save(const fs::path& path, const GameState& state) {
+    const Outcome<QByteArray> content = WriteGame(state);
+    if (!content) {
+        return Failure{content.Reason()};
     }
     for (const auto& check : {CheckFile, CheckName}) {
-        QString problem = check(path);
-        if (!problem.isEmpty()) {
-            return problem;
+        if (Outcome<> checked = check(path); !checked) {
+            return checked;
         }
     }
-    const QString copy = Holds(path, content) ? QString() : path + '~';
-    return ReplaceFile(path, content, Durability::Disk, copy);
+    // Saving the same game again changes nothing: it is the older one that is kept.
+    const std::string bytes = content->toStdString();
+    const Outcome<std::string> old = ReadFile(path);
+    const bool isSame = old && *old == bytes;
+    return ReplaceFile(path, bytes, Durability::Disk, isSame ? fs::path() : fs::path(path) += '~');
 }
 
 } // namespace
 
-QString SaveGameFile(const QString& name, const GameState& state) {
+Outcome<> SaveGameFile(const QString& name, const GameState& state) {
     // Through a link the game goes to where the link leads.
-    const QFileInfo link(OnDisk(name));
-    const QString path = link.exists() ? link.canonicalFilePath() : link.filePath();
-    const QString problem = Save(path, state);
-    if (problem.isEmpty()) {
-        RemoveLeftovers(QFileInfo(path).path());
-        return {};
+    std::error_code isNew;
+    fs::path path = fs::canonical(PathOf(name), isNew);
+    if (isNew) {
+        path = PathOf(name);
     }
-    return Failure(path, problem);
+    if (const Outcome<> saved = Save(path, state); !saved) {
+        return Explain(path, saved.Reason());
+    }
+    RemoveLeftovers(path.parent_path());
+    return {};
 }
 
-ReadGameResult LoadGameFile(const QString& name) {
-    const QString path = OnDisk(name);
-    const QString unusable = CheckFile(path);
-    if (!unusable.isEmpty()) {
-        return {{}, Failure(path, unusable)};
+Outcome<GameState> LoadGameFile(const QString& name) {
+    const fs::path path = PathOf(name);
+    const Outcome<std::string> bytes = ReadFile(path);
+    if (!bytes) {
+        return Explain(path, bytes.Reason());
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, Failure(path, file.errorString())};
+    Outcome<GameState> game = ReadGame(QByteArray::fromStdString(*bytes));
+    if (!game) {
+        return Explain(path, game.Reason());
     }
-    const QByteArray bytes = file.read(LargestGameFile + 1);
-    if (file.error() != QFile::NoError) {
-        return {{}, Failure(path, file.errorString())};
-    }
-    ReadGameResult result = ReadGame(bytes);
-    if (!result.Game) {
-        result.Problem = Failure(path, result.Problem);
-    }
-    return result;
+    return game;
 }
 
 } // namespace ksm

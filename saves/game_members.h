@@ -27,6 +27,9 @@ inline constexpr auto RaceWords = [] {
     return words;
 }();
 
+/// Milliseconds since 1970 that JSON can hold.
+inline constexpr std::int64_t LatestTime = (std::int64_t{1} << 53) - 1;
+
 /// The planets of a list without the free slots at its end.
 inline std::vector<std::uint8_t> Packed(const PlanetIndexList& list) {
     return {list.begin(), std::ranges::find(list, NoPlanet)};
@@ -52,24 +55,24 @@ inline std::vector<SavedAgreement> Agreements(const Game& game) {
 struct GameMembers {
     template<typename Members, typename State>
     static void Describe(Members& members, State& state) {
-        members.Number("NumPlayers", state.NumPlayers, MinPlayers, MaxPlayers);
-        members.Truth("Started", state.Started);
+        members.Number("NumPlayers", state.Game.NumPlayers, MinPlayers, MaxPlayers);
+        members.Number("StartTime", state.Game.StartTime, 0, LatestTime);
         DescribePlanets(members, state);
-        DescribePlanetList(members, "NeutralPlanetList", state.Player(NeutralOwner),
-                           state.NumPlanets);
+        DescribePlanetList(members, "NeutralPlanetList", state.Game.Player(NeutralOwner),
+                           state.Game.NumPlanets);
         DescribePlayers(members, state);
         DescribeTrade(members, state);
-        members.Object("Laws", state.Laws, [](auto& laws, auto& marks) {
-            laws.Truth("LabourUnion", marks.LabourUnion);
-            laws.Truth("EconomicIndependence", marks.EconomicIndependence);
-            laws.Truth("FreeTrade", marks.FreeTrade);
-            laws.Truth("TradeRestrictions", marks.TradeRestrictions);
-            laws.Truth("OrlenHouseRules", marks.OrlenHouseRules);
+        members.Object("Laws", state.Game.Laws, [](auto& laws, auto& marks) {
+            laws.Bool("LabourUnion", marks.LabourUnion);
+            laws.Bool("EconomicIndependence", marks.EconomicIndependence);
+            laws.Bool("FreeTrade", marks.FreeTrade);
+            laws.Bool("TradeRestrictions", marks.TradeRestrictions);
+            laws.Bool("OrlenHouseRules", marks.OrlenHouseRules);
         });
-        members.Number("GreenModifier", state.GreenModifier, 0, MaxModifier);
-        members.Number("BlueModifier", state.BlueModifier, 0, MaxModifier);
-        members.Number("YellowModifier", state.YellowModifier, 0, MaxModifier);
-        members.Number("RedModifier", state.RedModifier, 0, MaxModifier);
+        members.Number("GreenModifier", state.Game.GreenModifier, 0, MaxModifier);
+        members.Number("BlueModifier", state.Game.BlueModifier, 0, MaxModifier);
+        members.Number("YellowModifier", state.Game.YellowModifier, 0, MaxModifier);
+        members.Number("RedModifier", state.Game.RedModifier, 0, MaxModifier);
         // The marks of a drag are not worth keeping.
         members.Number("BoardPlayer", state.View.BoardPlayer, 0, AllPlanets);
         members.Number("BoardPosition", state.View.BoardPosition, 0, MaxPlanets - BoardRowCount);
@@ -80,19 +83,19 @@ struct GameMembers {
 private:
     template<typename Members, typename State>
     static void DescribePlanets(Members& members, State& state) {
-        const auto loaded = state.LoadedPlanets();
+        const auto loaded = state.Game.LoadedPlanets();
         std::vector<PlanetRecord> planets(loaded.begin(), loaded.end());
-        members.Rows("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
+        members.List("Planets", planets, 1, MaxPlanets, [](auto& planet, auto& record) {
             constexpr int LargestByte = std::numeric_limits<std::uint8_t>::max();
             planet.Text("Name", record.Name);
             planet.Number("Resources", record.Resources, 0, LargestByte);
             planet.Number("Influence", record.Influence, 0, LargestByte);
-            planet.Word("Specialty", record.Specialty, SpecialtyWords);
+            planet.Enum("Specialty", record.Specialty, SpecialtyWords);
             planet.Number("Owner", record.Owner, NeutralOwner, MaxPlayers);
         });
         if constexpr (Members::Reading) {
-            state.NumPlanets = static_cast<int>(planets.size());
-            std::ranges::move(planets, state.Planets.begin());
+            state.Game.NumPlanets = static_cast<int>(planets.size());
+            std::ranges::move(planets, state.Game.Planets.begin());
         }
     }
 
@@ -112,52 +115,56 @@ private:
     // race.
     template<typename Members, typename State>
     static void DescribePlayers(Members& members, State& state) {
-        const auto players = std::span(state.Players).subspan(1, MaxPlayers);
-        members.Elements("Players", players, [&](auto& player, auto& record) {
+        const auto slots = std::span(state.Game.Players).subspan(1, MaxPlayers);
+        std::vector<PlayerRecord> players(slots.begin(), slots.end());
+        members.List("Players", players, MaxPlayers, MaxPlayers, [&](auto& player, auto& record) {
             player.Text("Name", record.Name);
-            player.Truth("Named", record.Named);
+            player.Bool("Named", record.Named);
             player.Text("ShortName", record.ShortName);
             player.Object("NameColours", record.NameColours, DescribeColours);
             player.Object("TradeColours", record.TradeColours, DescribeColours);
-            player.Word("Race", record.Race, RaceWords);
+            player.Enum("Race", record.Race, RaceWords);
             player.Number("SpaceDocks", record.SpaceDocks, 0, MaxSpaceDocks);
-            player.Truth("Enviro", record.Enviro);
-            player.Truth("PellamTools", record.PellamTools);
-            player.Truth("PellamToolsEnabled", record.PellamToolsEnabled);
-            player.Truth("Micro", record.Micro);
-            player.Truth("MicroEnabled", record.MicroEnabled);
-            DescribePlanetList(player, "PlanetList", record, state.NumPlanets);
+            player.Bool("Enviro", record.Enviro);
+            player.Bool("PellamTools", record.PellamTools);
+            player.Bool("PellamToolsEnabled", record.PellamToolsEnabled);
+            player.Bool("Micro", record.Micro);
+            player.Bool("MicroEnabled", record.MicroEnabled);
+            DescribePlanetList(player, "PlanetList", record, state.Game.NumPlanets);
             player.Number("TradeRing", record.TradeRing, MinPlayers, MaxPlayers);
         });
+        if constexpr (Members::Reading) {
+            std::ranges::move(players, slots.begin());
+        }
     }
 
     static constexpr auto DescribeColours = [](auto& pair, auto& colours) {
-        pair.Hue("Back", colours.Back);
-        pair.Hue("Text", colours.Text);
+        pair.Colour("Back", colours.Back);
+        pair.Colour("Text", colours.Text);
     };
 
     template<typename Members, typename State>
     static void DescribeTrade(Members& members, State& state) {
-        std::vector<SavedAgreement> agreements = Agreements(state);
+        std::vector<SavedAgreement> agreements = Agreements(state.Game);
         members.List("TradeAgreements", agreements, 0, MaxAgreements, [](auto& pair, auto& saved) {
             pair.Number("Maker", saved.Maker, 1, MaxPlayers);
             pair.Number("Partner", saved.Partner, 1, MaxPlayers);
         });
         if constexpr (Members::Reading) {
             for (const SavedAgreement& saved : agreements) {
-                state.Cell(saved.Maker, saved.Partner) = Agreement;
+                state.Game.Cell(saved.Maker, saved.Partner) = Agreement;
             }
         }
-        members.Word("TradeMode", state.TradeMode, TradeModeWords);
-        members.Number("TradeFirst", state.TradeFirst, 0, MaxPlayers);
-        members.Text("TradeInfo", state.TradeInfo);
-        members.Number("IndepFirst", state.IndepFirst, 0, MaxPlayers);
-        members.Number("IndepSecond", state.IndepSecond, 0, MaxPlayers);
-        members.List("TradeStrokes", state.TradeStrokes, 0, MaxStrokes,
+        members.Enum("TradeMode", state.Game.TradeMode, TradeModeWords);
+        members.Number("TradeFirst", state.Game.TradeFirst, 0, MaxPlayers);
+        members.Text("TradeInfo", state.Game.TradeInfo);
+        members.Number("IndepFirst", state.Game.IndepFirst, 0, MaxPlayers);
+        members.Number("IndepSecond", state.Game.IndepSecond, 0, MaxPlayers);
+        members.List("TradeStrokes", state.Game.TradeStrokes, 0, MaxStrokes,
                      [](auto& stroke, auto& drawn) {
-                         stroke.Place("From", drawn.From, 300, 180);
-                         stroke.Place("To", drawn.To, 300, 180);
-                         stroke.Hue("Colour", drawn.Colour);
+                         stroke.Point("From", drawn.From, 300, 180);
+                         stroke.Point("To", drawn.To, 300, 180);
+                         stroke.Colour("Colour", drawn.Colour);
                          stroke.Number("Width", drawn.Width, 1, 6);
                      });
     }

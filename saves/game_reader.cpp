@@ -12,42 +12,35 @@ namespace ksm {
 
 namespace {
 
-ReadGameResult Refused(const QString& problem) {
-    return {std::nullopt, problem};
+Failure Damaged(const std::string& problem) {
+    return {"The saved game is damaged: " + problem};
 }
 
-ReadGameResult Damaged(const QString& problem) {
-    return Refused("The saved game is damaged: " + problem);
-}
-
-void ComputeWhatFollows(GameState& state) {
-    for (PlayerRecord& player : state.Players) {
-        TakeCostsOfRace(player);
+void ComputeWhatFollows(Game& game) {
+    for (PlayerRecord& player : game.Players) {
+        SetCostsOfRace(player);
     }
-    UpdateValues(state);
-    TurnOrder(state);
+    UpdateValues(game);
+    TurnOrder(game);
 }
 
 } // namespace
 
-ReadGameResult ReadGame(const QByteArray& bytes) {
-    if (bytes.size() > LargestGameFile) {
-        return Refused("The file is larger than 1 MiB.");
-    }
+Outcome<GameState> ReadGame(const QByteArray& bytes) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (document.isNull()) {
-        return Refused(QString("The file is not a saved game, or it is damaged: %1 at byte %2.")
-                           .arg(error.errorString())
-                           .arg(error.offset));
+        const QString problem =
+            QString("%1 at byte %2.").arg(error.errorString()).arg(error.offset);
+        return Failure{"The file is not a saved game, or it is damaged: " + problem.toStdString()};
     }
     QJsonObject file = document.object();
     if (file.take("Format") != QJsonValue(GameFormat)) {
-        return Refused("The file is not a saved game of this program.");
+        return Failure{"The file is not a saved game of this program."};
     }
     // What a later version writes may look different in every other respect.
     if (file.value("Version").toDouble() > GameFormatVersion) {
-        return Refused("The game was saved by a later version of this program.");
+        return Failure{"The game was saved by a later version of this program."};
     }
     QString problem;
     JsonReader members(file, {}, problem);
@@ -58,14 +51,13 @@ ReadGameResult ReadGame(const QByteArray& bytes) {
                    [](JsonReader& game, GameState& read) { GameMembers::Describe(game, read); });
     members.Finish();
     if (!problem.isEmpty()) {
-        return Damaged(problem);
+        return Damaged(problem.toStdString());
     }
-    ComputeWhatFollows(state);
-    const std::string contradiction = FindContradiction(state);
-    if (!contradiction.empty()) {
-        return Damaged("Game." + QString::fromStdString(contradiction));
+    ComputeWhatFollows(state.Game);
+    if (const Outcome<> checked = CheckGame(state); !checked) {
+        return Damaged("Game." + checked.Reason());
     }
-    return {std::move(state), {}};
+    return state;
 }
 
 } // namespace ksm

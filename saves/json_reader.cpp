@@ -4,8 +4,8 @@
 
 namespace ksm {
 
-void JsonReader::Truth(const char* name, bool& value) {
-    const QJsonValue found = Take(name);
+void JsonReader::Bool(const char* name, bool& value) {
+    const QJsonValue found = Extract(name);
     if (!found.isBool()) {
         Refuse(Where(name), "is neither true nor false");
     }
@@ -13,7 +13,7 @@ void JsonReader::Truth(const char* name, bool& value) {
 }
 
 void JsonReader::Text(const char* name, std::string& utf8) {
-    const QJsonValue found = Take(name);
+    const QJsonValue found = Extract(name);
     QString text = found.toString();
     if (!found.isString() || !text.isValidUtf16()) {
         Refuse(Where(name), "is not a text");
@@ -26,8 +26,8 @@ void JsonReader::Text(const char* name, std::string& utf8) {
     utf8 = text.toStdString();
 }
 
-void JsonReader::Hue(const char* name, Colour& colour) {
-    const QString text = Take(name).toString();
+void JsonReader::Colour(const char* name, ksm::Colour& colour) {
+    const QString text = Extract(name).toString();
     bool isNumber = false;
     const uint number = QStringView(text).mid(1).toUInt(&isNumber, 16);
     if (text.size() != 7 || !text.startsWith('#') || !isNumber) {
@@ -38,16 +38,19 @@ void JsonReader::Hue(const char* name, Colour& colour) {
     colour = {part(16), part(8), part(0)};
 }
 
-void JsonReader::Place(const char* name, Point& place, int right, int bottom) {
-    const QJsonArray pair = TakeList(name, 2, 2);
-    place.X = CheckNumber(pair.at(0), Where(name, 0), place.X, 0, right);
-    place.Y = CheckNumber(pair.at(1), Where(name, 1), place.Y, 0, bottom);
+void JsonReader::Point(const char* name, ksm::Point& point, int right, int bottom) {
+    const QJsonArray pair = ExtractList(name, 2, 2);
+    const auto number = [&](qsizetype index, int otherwise, int most) {
+        return static_cast<int>(
+            CheckNumber(pair.at(index), Where(name, index), otherwise, 0, most));
+    };
+    point = {number(0, point.X, right), number(1, point.Y, bottom)};
 }
 
 void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, int longest,
                          int least, int most) {
     values.clear();
-    for (const QJsonValue element : TakeList(name, 0, longest)) {
+    for (const QJsonValue element : ExtractList(name, 0, longest)) {
         const QString place = Where(name, static_cast<qsizetype>(values.size()));
         values.push_back(
             static_cast<std::uint8_t>(CheckNumber(element, place, least, least, most)));
@@ -55,25 +58,21 @@ void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, in
 }
 
 void JsonReader::Finish() {
-    if (!restOfRow.isEmpty()) {
-        Refuse(ownPlace, "is too long");
-    }
     if (!rest.isEmpty()) {
         Refuse(Where(qPrintable(rest.begin().key().left(40))), "is unknown");
     }
 }
 
-QJsonValue JsonReader::Take(const char* name) {
-    QJsonValue value =
-        isRow && !restOfRow.isEmpty() ? restOfRow.takeAt(0) : rest.take(QLatin1StringView(name));
+QJsonValue JsonReader::Extract(const char* name) {
+    QJsonValue value = rest.take(QLatin1StringView(name));
     if (value.isUndefined()) {
         Refuse(Where(name), "is missing");
     }
     return value;
 }
 
-QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
-    const QJsonValue value = Take(name);
+QJsonArray JsonReader::ExtractList(const char* name, int fewest, int longest) {
+    const QJsonValue value = Extract(name);
     QJsonArray list = value.toArray();
     if (value.isArray() && list.size() >= fewest && list.size() <= longest) {
         return list;
@@ -82,18 +81,18 @@ QJsonArray JsonReader::TakeList(const char* name, int fewest, int longest) {
     return {};
 }
 
-int JsonReader::CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
-                            int most) {
-    const qint64 number = value.toInteger(qint64{least} - 1);
+qint64 JsonReader::CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
+                               qint64 least, qint64 most) {
+    const qint64 number = value.toInteger(least - 1);
     if (number >= least && number <= most) {
-        return static_cast<int>(number);
+        return number;
     }
     Refuse(where, QString("is not a whole number from %1 to %2").arg(least).arg(most));
     return otherwise;
 }
 
-std::size_t JsonReader::CheckWord(const char* name, std::size_t otherwise,
-                                  std::span<const std::string_view> words) {
+std::size_t JsonReader::FindWord(const char* name, std::size_t otherwise,
+                                 std::span<const std::string_view> words) {
     std::string word;
     Text(name, word);
     const auto found = std::ranges::find(words, word);

@@ -23,74 +23,43 @@ class JsonReader {
 public:
     static constexpr bool Reading = true;
 
-    /// Reads the members of an object, or those of a row, a list that leaves their names out.
-    /// `place` says where in the file it stands, as in "Players[3]"; it may be empty.
+    /// `place` says where in the file the object stands, as in "Players[3]"; it may be empty.
     JsonReader(QJsonObject object, QString place, QString& problem)
         : rest(std::move(object)), ownPlace(std::move(place)), firstProblem(problem) {}
-    JsonReader(QJsonArray row, QString place, QString& problem)
-        : isRow(true), restOfRow(std::move(row)), ownPlace(std::move(place)),
-          firstProblem(problem) {}
 
     template<typename Whole>
-    void Number(const char* name, Whole& value, int least, int most) {
-        value = static_cast<Whole>(CheckNumber(Take(name), Where(name), value, least, most));
+    void Number(const char* name, Whole& value, qint64 least, qint64 most) {
+        value = static_cast<Whole>(CheckNumber(Extract(name), Where(name), value, least, most));
     }
-    void Truth(const char* name, bool& value);
+    void Bool(const char* name, bool& value);
     void Text(const char* name, std::string& utf8);
-    void Hue(const char* name, Colour& colour);
+    void Colour(const char* name, ksm::Colour& colour);
     /// A list of two numbers, 0 to `right` and 0 to `bottom`.
-    void Place(const char* name, Point& place, int right, int bottom);
+    void Point(const char* name, ksm::Point& point, int right, int bottom);
 
     /// One of `words`, which stand in the order of the enumeration.
-    template<typename Enum>
-    void Word(const char* name, Enum& value, std::span<const std::string_view> words) {
-        value = static_cast<Enum>(CheckWord(name, static_cast<std::size_t>(value), words));
+    template<typename Enumeration>
+    void Enum(const char* name, Enumeration& value, std::span<const std::string_view> words) {
+        value = static_cast<Enumeration>(FindWord(name, static_cast<std::size_t>(value), words));
     }
 
     template<typename Value, typename DescribeMembers>
     void Object(const char* name, Value& value, const DescribeMembers& describe) {
-        Read(Take(name), Where(name), value, describe);
+        Read(Extract(name), Where(name), value, describe);
     }
 
     /// A list of at most `longest` numbers.
     void Numbers(const char* name, std::vector<std::uint8_t>& values, int longest, int least,
                  int most);
 
-    /// A list of exactly as many objects as there are values.
-    template<typename Value, typename DescribeMembers>
-    void Elements(const char* name, std::span<Value> values, const DescribeMembers& describe) {
-        const int count = static_cast<int>(values.size());
-        qsizetype index = 0;
-        for (const QJsonValue element : TakeList(name, count, count)) {
-            Read(element, Where(name, index), values[static_cast<std::size_t>(index)], describe);
-            ++index;
-        }
-    }
-
     /// A list of `fewest` to `longest` objects.
     template<typename Value, typename DescribeMembers>
     void List(const char* name, std::vector<Value>& values, int fewest, int longest,
               const DescribeMembers& describe) {
         values.clear();
-        for (const QJsonValue element : TakeList(name, fewest, longest)) {
+        for (const QJsonValue element : ExtractList(name, fewest, longest)) {
             const QString place = Where(name, static_cast<qsizetype>(values.size()));
             Read(element, place, values.emplace_back(), describe);
-        }
-    }
-
-    /// A list of `fewest` to `longest` rows.
-    template<typename Value, typename DescribeMembers>
-    void Rows(const char* name, std::vector<Value>& values, int fewest, int longest,
-              const DescribeMembers& describe) {
-        values.clear();
-        for (const QJsonValue element : TakeList(name, fewest, longest)) {
-            const QString place = Where(name, static_cast<qsizetype>(values.size()));
-            if (!element.isArray()) {
-                Refuse(place, "is not a list");
-            }
-            JsonReader members(element.toArray(), place, firstProblem);
-            describe(members, values.emplace_back());
-            members.Finish();
         }
     }
 
@@ -109,20 +78,19 @@ private:
         members.Finish();
     }
 
-    QJsonValue Take(const char* name);
-    QJsonArray TakeList(const char* name, int fewest, int longest);
-    int CheckNumber(const QJsonValue& value, const QString& where, int otherwise, int least,
-                    int most);
-    std::size_t CheckWord(const char* name, std::size_t otherwise,
-                          std::span<const std::string_view> words);
+    /// Removes the member from those that are left, and returns it.
+    QJsonValue Extract(const char* name);
+    QJsonArray ExtractList(const char* name, int fewest, int longest);
+    qint64 CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
+                       qint64 least, qint64 most);
+    std::size_t FindWord(const char* name, std::size_t otherwise,
+                         std::span<const std::string_view> words);
     QString Where(const char* name) const;
     QString Where(const char* list, qsizetype index) const;
     /// Notes that `where` is wrong, unless something is already.
     void Refuse(const QString& where, const QString& what);
 
-    bool isRow = false;
     QJsonObject rest;
-    QJsonArray restOfRow;
     QString ownPlace;
     QString& firstProblem;
 };

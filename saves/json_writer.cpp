@@ -6,7 +6,7 @@ void JsonWriter::Text(const char* name, const std::string& utf8) {
     Put(name, QString::fromStdString(utf8));
 }
 
-void JsonWriter::Hue(const char* name, Colour colour) {
+void JsonWriter::Colour(const char* name, ksm::Colour colour) {
     constexpr std::string_view Digits = "0123456789ABCDEF";
     std::string text = "#";
     for (const std::uint8_t part : {colour.Red, colour.Green, colour.Blue}) {
@@ -16,8 +16,8 @@ void JsonWriter::Hue(const char* name, Colour colour) {
     Put(name, QLatin1StringView(text));
 }
 
-void JsonWriter::Place(const char* name, Point place, int, int) {
-    Put(name, QJsonArray{place.X, place.Y});
+void JsonWriter::Point(const char* name, ksm::Point point, int, int) {
+    Put(name, QJsonArray{point.X, point.Y});
 }
 
 void JsonWriter::Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int) {

@@ -14,24 +14,20 @@
 
 namespace ksm {
 
-/// Takes the members of an object, or the values of a row, a list that leaves their names out. It
-/// has the functions of a JsonReader, so that one description of the members serves both; the
+/// Has the functions of a JsonReader, so that one description of the members serves both; the
 /// ranges are the reader's business.
 class JsonWriter {
 public:
     static constexpr bool Reading = false;
-    enum class Form { Object, Row };
 
-    explicit JsonWriter(Form ownForm = Form::Object) : form(ownForm) {}
-
-    void Number(const char* name, int value, int, int) { Put(name, value); }
-    void Truth(const char* name, bool value) { Put(name, value); }
+    void Number(const char* name, qint64 value, qint64, qint64) { Put(name, value); }
+    void Bool(const char* name, bool value) { Put(name, value); }
     void Text(const char* name, const std::string& utf8);
-    void Hue(const char* name, Colour colour);
-    void Place(const char* name, Point place, int, int);
+    void Colour(const char* name, ksm::Colour colour);
+    void Point(const char* name, ksm::Point point, int, int);
 
-    template<typename Enum>
-    void Word(const char* name, Enum value, std::span<const std::string_view> words) {
+    template<typename Enumeration>
+    void Enum(const char* name, Enumeration value, std::span<const std::string_view> words) {
         Put(name, QLatin1StringView(words[static_cast<std::size_t>(value)]));
     }
 
@@ -42,22 +38,9 @@ public:
 
     void Numbers(const char* name, std::span<const std::uint8_t> values, int, int, int);
 
-    /// A list of rows.
     template<typename Value, typename DescribeMembers>
-    void Rows(const char* name, const std::vector<Value>& values, int, int,
+    void List(const char* name, const std::vector<Value>& values, int, int,
               const DescribeMembers& describe) {
-        QJsonArray list;
-        for (const Value& value : values) {
-            JsonWriter members(Form::Row);
-            describe(members, value);
-            list.append(members.row);
-        }
-        Put(name, list);
-    }
-
-    template<typename Value, typename DescribeMembers>
-    void Elements(const char* name, std::span<const Value> values,
-                  const DescribeMembers& describe) {
         QJsonArray list;
         for (const Value& value : values) {
             list.append(Describe(value, describe));
@@ -65,21 +48,11 @@ public:
         Put(name, list);
     }
 
-    template<typename Value, typename DescribeMembers>
-    void List(const char* name, const std::vector<Value>& values, int, int,
-              const DescribeMembers& describe) {
-        Elements(name, std::span<const Value>(values), describe);
-    }
-
     const QJsonObject& Result() const { return object; }
 
 private:
     void Put(const char* name, const QJsonValue& value) {
-        if (form == Form::Row) {
-            row.append(value);
-        } else {
-            object.insert(QLatin1StringView(name), value);
-        }
+        object.insert(QLatin1StringView(name), value);
     }
 
     template<typename Value, typename DescribeMembers>
@@ -89,9 +62,7 @@ private:
         return members.object;
     }
 
-    Form form;
     QJsonObject object;
-    QJsonArray row;
 };
 
 } // namespace ksm

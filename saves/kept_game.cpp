@@ -1,58 +1,60 @@
 #include "saves/kept_game.h"
 
+#include "planets/read_file.h"
 #include "saves/game_text.h"
+#include "saves/kept_files.h"
 #include "saves/replace_file.h"
 
-#include <QFileInfo>
-
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
 namespace ksm {
 
-namespace {
-
-// A link is renamed itself: what it leads to belongs to somebody else.
-QString RenameEarlierGame() {
-    const QFileInfo earlier(KeptGameName);
-    if (!earlier.exists() && !earlier.isSymLink()) {
-        return {};
-    }
-    if (!earlier.isSymLink() && !earlier.isFile()) {
-        return "This is not a file.";
-    }
-    std::error_code error;
-    std::filesystem::rename(KeptGameName, EarlierGameName, error);
-    return error ? QString::fromStdString(error.message()) : QString();
-}
-
-} // namespace
-
 void KeptGame::Keep(const GameState& state) {
-    const bool changed = static_cast<const Game&>(state) != static_cast<const Game&>(kept) ||
-                         state.NotesText != kept.NotesText;
-    if (changed || !problem.isEmpty()) {
-        problem = Write(state);
-        kept = state;
+    if (state.Game != last.Game || state.NotesText != last.NotesText || !outcome) {
+        outcome = Write(state);
+        last = state;
     }
 }
 
-QString KeptGame::Write(const GameState& state) {
-    const QByteArray content = WriteGame(state, QJsonDocument::Compact);
-    if (content.size() > LargestGameFile) {
-        return "The game is larger than 1 MiB, the most that a saved game can hold. "
-               "Shorten the notes.";
+Outcome<> KeptGame::Write(const GameState& state) {
+    const Outcome<QByteArray> content = WriteGame(state, QJsonDocument::Compact);
+    if (!content) {
+        return Failure{content.Reason()};
     }
-    if (!isOurs) {
-        QString refused = RenameEarlierGame();
-        if (!refused.isEmpty()) {
-            return refused;
+    if (Outcome<> ours = CheckIsOurs(); !ours) {
+        return ours;
+    }
+    std::optional<KeptFiles> files;
+    if (written.empty() || startTime != state.Game.StartTime) {
+        files.emplace(state.Game.StartTime);
+        if (Outcome<> room = files->MakeRoom(); !room) {
+            return room;
         }
         RemoveLeftovers(".");
     }
-    QString refused = ReplaceFile(KeptGameName, content, Durability::Process);
-    isOurs = isOurs || refused.isEmpty();
-    return refused;
+    const std::string bytes = content->toStdString();
+    const auto path = std::filesystem::path(".") / KeptGameName;
+    if (Outcome<> done = ReplaceFile(path, bytes, Durability::Process); !done) {
+        return done;
+    }
+    written = bytes;
+    startTime = state.Game.StartTime;
+    if (files) {
+        files->Tidy();
+    }
+    return {};
+}
+
+Outcome<> KeptGame::CheckIsOurs() const {
+    std::error_code ignored;
+    if (written.empty() || !exists(std::filesystem::symlink_status(KeptGameName, ignored))) {
+        return {};
+    }
+    const Outcome<std::string> found = ReadFile(KeptGameName);
+    if (!found) {
+        return Failure{found.Reason()};
+    }
+    return *found == written ? Outcome() : Failure{"Another program keeps its game there."};
 }
 
 } // namespace ksm

@@ -2,37 +2,33 @@
 #pragma once
 
 #include "model/game_state.h"
-
-#include <QString>
-
-#include <utility>
+#include "model/outcome.h"
 
 namespace ksm {
 
-/// The file of the game that is being played, and of the evening before.
-inline constexpr auto KeptGameName = "autosave.ksm";
-inline constexpr auto EarlierGameName = "autosave-1.ksm";
-
 /// Writes the game to `autosave.ksm` in the current folder, so that it survives a crash and a
 /// careless end. Nothing is waited for: the operating system brings the file to the disk in its own
-/// time. A kept game that another process left is renamed first.
+/// time. Other games that were kept there get older names.
 class KeptGame {
 public:
     /// `start` is not worth keeping: only what differs from it is.
-    explicit KeptGame(GameState start) : kept(std::move(start)) {}
+    explicit KeptGame(GameState start) : last(std::move(start)) {}
 
     /// Keeps the game, if anything but the view changed since it was last kept.
     void Keep(const GameState& state);
 
-    /// Why the last change was not kept; empty when it was.
-    const QString& Problem() const { return problem; }
+    /// Whether the last change was kept, or why not.
+    const Outcome<>& LastOutcome() const { return outcome; }
 
 private:
-    QString Write(const GameState& state);
+    Outcome<> Write(const GameState& state);
+    /// Fails when the file does not hold what this program wrote.
+    Outcome<> CheckIsOurs() const;
 
-    GameState kept;
-    bool isOurs = false; ///< whether this process wrote the file
-    QString problem;
+    GameState last;
+    Outcome<> outcome;
+    std::string written;        ///< empty until this program wrote the file
+    std::int64_t startTime = 0; ///< of the game that was written
 };
 
 } // namespace ksm

@@ -1,108 +1,87 @@
 #include "saves/replace_file.h"
 
-#include "saves/system.h"
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
+#include <QString>
 #include <QSysInfo>
 
-#include <filesystem>
+#include <charconv>
 #include <system_error>
+#include <unistd.h>
 
 namespace ksm {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr auto LeftoverEnding = ".tmp";
+constexpr auto CopyEnding = "-old.tmp";
 
 // Begins the names of unfinished files; a process number follows. The computer's name is in it,
 // since others may write into the same folder over a network.
-QString LeftoverBeginning() {
-    return ".ksm-" + QSysInfo::machineHostName().left(64) + '-';
+std::string LeftoverBeginning() {
+    return ".ksm-" + QSysInfo::machineHostName().left(64).toStdString() + '-';
 }
 
-// `use` tells the files from one another that this process needs in the folder at the same time.
-QString UnfinishedIn(const QString& folder, const char* use) {
-    return folder + '/' + LeftoverBeginning() +
-           QString::number(QCoreApplication::applicationPid()) + use + LeftoverEnding;
+fs::path UnfinishedBeside(const fs::path& path, const char* ending) {
+    return path.parent_path() / (LeftoverBeginning() + std::to_string(getpid()) + ending);
 }
 
-std::filesystem::path OnDisk(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
-QString Rename(const QString& from, const QString& to) {
+// A second name for the same file would be cheaper, but not every file system has them, and not
+// every folder lets one be taken back.
+Outcome<> Copy(const fs::path& path, const fs::path& copy) {
+    const fs::path unfinished = UnfinishedBeside(path, CopyEnding);
     std::error_code error;
-    std::filesystem::rename(OnDisk(from), OnDisk(to), error);
-    if (error) {
-        QFile::remove(from);
-        return QString::fromStdString(error.message());
+    fs::copy_file(path, unfinished, fs::copy_options::overwrite_existing, error);
+    Outcome<> done = error ? Failure{error.message()} : Sync(unfinished);
+    if (done) {
+        done = Rename(unfinished, copy);
     }
-    return {};
-}
-
-// On a full disk only the count and flushing tell.
-QString Write(QFile& file, const QByteArray& content, Durability durability) {
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return file.errorString();
+    if (!done) {
+        fs::remove(unfinished, error);
     }
-    if (file.write(content) != content.size() || !file.flush() || file.error() != QFile::NoError) {
-        return file.error() == QFile::NoError ? "No space left on device" : file.errorString();
-    }
-    return durability == Durability::Disk ? SyncFile(file) : QString();
-}
-
-// Gives the file a second name.
-QString Keep(const QString& path, const QString& copy) {
-    const QString unfinished = UnfinishedIn(QFileInfo(path).path(), "-old");
-    QFile::remove(unfinished);
-    std::error_code error;
-    std::filesystem::create_hard_link(OnDisk(path), OnDisk(unfinished), error);
-    QFile old(path);
-    // Not every file system can give a file two names.
-    if (error && !old.copy(unfinished)) {
-        QFile::remove(unfinished);
-        return old.errorString();
-    }
-    QString refused = Rename(unfinished, copy);
-    // Renaming does nothing where both names are of one file already.
-    QFile::remove(unfinished);
-    return refused;
+    return done;
 }
 
 } // namespace
 
-QString ReplaceFile(const QString& path, const QByteArray& content, Durability durability,
-                    const QString& copy) {
-    const QFileInfo old(path);
-    QFile unfinished(UnfinishedIn(old.path(), ""));
-    unfinished.remove(); // of an earlier process with this number
-    QString problem = Write(unfinished, content, durability);
-    if (problem.isEmpty() && old.exists()) {
-        unfinished.setPermissions(old.permissions());
-        if (!copy.isEmpty()) {
-            problem = Keep(path, copy);
+Outcome<> ReplaceFile(const fs::path& path, std::string_view content, Durability durability,
+                      const fs::path& copy) {
+    const fs::path unfinished = UnfinishedBeside(path, LeftoverEnding);
+    std::error_code ignored;
+    fs::remove(unfinished, ignored); // of an earlier process with this number
+    Outcome<> done = WriteNewFile(unfinished, content, durability);
+    if (done && fs::exists(path, ignored)) {
+        fs::permissions(unfinished, fs::status(path, ignored).permissions(), ignored);
+        if (!copy.empty()) {
+            done = Copy(path, copy);
         }
     }
-    if (!problem.isEmpty()) {
-        unfinished.remove();
-        return problem;
+    if (done) {
+        done = Rename(unfinished, path);
     }
-    unfinished.close();
-    problem = Rename(unfinished.fileName(), path);
-    return problem.isEmpty() && durability == Durability::Disk ? SyncFolder(old.path()) : problem;
+    if (!done) {
+        fs::remove(unfinished, ignored);
+    }
+    return done && durability == Durability::Disk ? Sync(path.parent_path()) : done;
 }
 
-void RemoveLeftovers(const QString& folder) {
-    const QString beginning = LeftoverBeginning();
-    const QString pattern = beginning + '*' + LeftoverEnding;
-    for (const QString& name : QDir(folder).entryList({pattern}, QDir::Files | QDir::Hidden)) {
-        const QString process = name.mid(beginning.size()).section('.', 0, 0).section('-', 0, 0);
-        bool isNumber = false;
-        const qint64 number = process.toLongLong(&isNumber);
-        if (isNumber && !IsRunning(number)) {
-            QFile::remove(folder + '/' + name);
+void RemoveLeftovers(const fs::path& folder) {
+    const std::string beginning = LeftoverBeginning();
+    std::error_code ignored;
+    for (fs::directory_iterator file(folder, ignored), end; file != end; file.increment(ignored)) {
+        const std::string name = file->path().filename();
+        if (!name.starts_with(beginning)) {
+            continue;
+        }
+        unsigned process = 0;
+        const std::string_view rest = std::string_view(name).substr(beginning.size());
+        const auto [ending, error] =
+            std::from_chars(rest.data(), rest.data() + rest.size(), process);
+        const bool isLeftover =
+            error == std::errc() &&
+            (ending == std::string_view(LeftoverEnding) || ending == std::string_view(CopyEnding));
+        if (isLeftover && !IsRunning(process)) {
+            fs::remove(*file, ignored);
         }
     }
 }

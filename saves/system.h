@@ -1,17 +1,30 @@
-// What files need of the operating system beyond what Qt offers.
+// Files as the operating system knows them: whatever goes wrong with one is told.
 #pragma once
 
-#include <QFile>
-#include <QString>
+#include "model/outcome.h"
+
+#include <filesystem>
+#include <string_view>
 
 namespace ksm {
 
-/// Waits until the file's content is on the disk. Returns why it is not, or an empty text.
-QString SyncFile(const QFile& file);
-/// Waits until the names in the folder are on the disk, likewise.
-QString SyncFolder(const QString& folder);
+enum class Durability {
+    /// Writing to the disk is begun, but not waited for: a process that is killed loses nothing.
+    Process,
+    /// The call waits for the disk: nor does a computer that stops.
+    Disk
+};
+
+/// Writes a new file. When that fails, part of it can be there.
+Outcome<> WriteNewFile(const std::filesystem::path& path, std::string_view content,
+                       Durability durability);
+/// Waits until a file's content, or the names in a folder, are on the disk.
+Outcome<> Sync(const std::filesystem::path& path);
+
+/// Renames a file; one that has the new name already is replaced.
+Outcome<> Rename(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Whether a process of this number runs on this computer, whoever started it.
-bool IsRunning(qint64 process);
+bool IsRunning(unsigned process);
 
 } // namespace ksm

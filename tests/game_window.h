@@ -20,7 +20,7 @@ inline GameState GameOfTwentyPlanets() {
     }
     planets[0].Name = "Quessin";
     planets[1].Specialty = Specialty::Blue;
-    TakePlanets(state, planets);
+    SetPlanets(state.Game, planets);
     return state;
 }
 

@@ -1,7 +1,6 @@
 // Every window to the pixel. A picture in pictures/ is one that somebody looked at and found right.
 
 #include "controls/message_box.h"
-#include "controls/program_icon.h"
 #include "dialogs/dice_form.h"
 #include "tests/game_window.h"
 #include "tests/saves/sample_game.h"
@@ -41,7 +40,7 @@ struct Evening : GameWindow {
 
     static GameState DeliveredGame() {
         GameState game;
-        TakePlanets(game, ReadPlanetListFile(DELIVERED_PLANET_LIST).Planets);
+        SetPlanets(game.Game, *ReadPlanetListFile(DELIVERED_PLANET_LIST));
         return game;
     }
     void Trade(int one, int other) const {
@@ -49,7 +48,7 @@ struct Evening : GameWindow {
         Click("TradePlayer", other);
     }
     void Play() {
-        const int players = state.NumPlayers;
+        const int players = state.Game.NumPlayers;
         Start();
         Move("PlanetScroller", 14);
         for (int row = 0; row < 12; ++row) {
@@ -199,7 +198,7 @@ QImage Message() {
 QImage Icon() {
     QList<QImage> sizes;
     for (const int size : {16, 32, 48}) {
-        sizes << ProgramIcon().pixmap(QSize(size, size), 1.0).toImage();
+        sizes << QIcon(":/ksm.svg").pixmap(QSize(size, size), 1.0).toImage();
     }
     return Column(sizes);
 }
@@ -287,7 +286,7 @@ void ExpectAsTaken(const QString& name, const QImage& picture) {
     const QString left = Left + '/' + name + ".png";
     const QImage now = picture.convertToFormat(QImage::Format_RGB32);
     const QImage before = QImage(Taken + '/' + name + ".png").convertToFormat(now.format());
-    if (now != before) {
+    if (now.isNull() || now != before) {
         now.save(left, nullptr, 0);
         Difference(before, now).save(Left + '/' + name + "-difference.png");
         ADD_FAILURE() << "does not look as before; see " << left.toStdString();

@@ -19,7 +19,7 @@ const Names NameEntries{"NameEntry", "NameEntry", "ShortNameEntry"};
 } // namespace
 
 void RandomPlay::Step() {
-    const bool started = game.state.Started;
+    const bool started = game.state.Game.Started();
     const std::pair<int, std::function<void()>> kinds[]{
         {3, [&] { game.Choose(Any(Laws)); }},
         {7, [&] { game.Click(Any(TradeButtons)); }},
@@ -51,9 +51,10 @@ void RandomPlay::SetUp() {
 }
 
 void RandomPlay::Look() {
-    const int owner = Pick(-1, 2 * game.state.NumPlayers);
-    owner > game.state.NumPlayers ? game.Move("PlanetScroller", Pick(0, MaxPlanets))
-                                  : game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
+    const int owner = Pick(-1, 2 * game.state.Game.NumPlayers);
+    owner > game.state.Game.NumPlayers
+        ? game.Move("PlanetScroller", Pick(0, MaxPlanets))
+        : game.Click("InvasionPlayer", owner < 0 ? AllPlanets : owner);
 }
 
 void RandomPlay::Drag() {
@@ -61,7 +62,7 @@ void RandomPlay::Drag() {
     const QWidget* target = nullptr;
     game.Press(row);
     for (int move = Pick(1, 3); move > 0; --move) {
-        target = game.Owner(Pick(0, game.state.NumPlayers));
+        target = game.Owner(Pick(0, game.state.Game.NumPlayers));
         game.MoveOver(row, target);
     }
     // Now and then on another planet, where nothing takes the marks of the drag away.

@@ -28,7 +28,7 @@ private:
     const char* Any(const std::vector<const char*>& names) {
         return names[static_cast<std::size_t>(Pick(0, static_cast<int>(names.size()) - 1))];
     }
-    int Player() { return Pick(1, game.state.NumPlayers); }
+    int Player() { return Pick(1, game.state.Game.NumPlayers); }
     char Letter() { return static_cast<char>(Pick('a', 'z')); }
 
     GameWindow& game;

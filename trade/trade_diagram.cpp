@@ -46,17 +46,4 @@ void RedrawTradeDiagram(Game& game) {
     }
 }
 
-void DrawOutcome(Game& game, const TradeOutcome& outcome) {
-    switch (outcome.Diagram) {
-    case DiagramChange::None:
-        break;
-    case DiagramChange::AddLine:
-        DrawTradeLine(game, outcome.From, outcome.To);
-        break;
-    case DiagramChange::Redraw:
-        RedrawTradeDiagram(game);
-        break;
-    }
-}
-
 } // namespace ksm

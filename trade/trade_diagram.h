@@ -1,7 +1,7 @@
 // The lines between the players' trade labels.
 #pragma once
 
-#include "trade/trade_agreements.h"
+#include "model/game_state.h"
 
 namespace ksm {
 
@@ -10,8 +10,5 @@ void DrawTradeLine(Game& game, int from, int to);
 
 /// Clears the diagram, then draws the agreements row by row and the independence pair on top.
 void RedrawTradeDiagram(Game& game);
-
-/// Draws what a click on the trade panel or a trade law asks for.
-void DrawOutcome(Game& game, const TradeOutcome& outcome);
 
 } // namespace ksm

@@ -1,15 +1,17 @@
 // The four laws of the "Trade" menu.
 #pragma once
 
-#include "trade/trade_agreements.h"
+#include "model/game_state.h"
 
 namespace ksm {
 
-TradeOutcome TFree_Click(Game& game);
-TradeOutcome TRestr_Click(Game& game);
-/// Switches Economic Independence on, so that the next two clicks choose the pair, or dissolves it.
-TradeOutcome Tres_Click(Game& game);
-/// Cancels every agreement at once.
-TradeOutcome TStop_Click(Game& game);
+// The figures have to follow, but for Economic Independence, which changes none.
+
+void ToggleFreeTrade(Game& game);
+void ToggleTradeRestrictions(Game& game);
+/// Switches the law on, so that the next two clicks choose the pair, or dissolves it.
+void ToggleEconomicIndependence(Game& game);
+/// Ends every agreement at once.
+void StopTrade(Game& game);
 
 } // namespace ksm

@@ -7,12 +7,16 @@
 #include "controls/message_label.h"
 #include "controls/qt_values.h"
 #include "controls/shape_frame.h"
+#include "economy/recompute.h"
 #include "trade/ring.h"
-#include "trade/trade_diagram.h"
+#include "trade/trade_agreements.h"
+#include "trade/trade_selection.h"
 #include "trade/trade_text.h"
 
 #include <QPainter>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace ksm {
 
@@ -71,47 +75,52 @@ QPushButton* TradePanel::MakeButton(const char* name, const char* caption, int t
 }
 
 void TradePanel::AddTAbutton_Click() {
-    ksm::AddTAbutton_Click(game);
-    Apply({});
-}
-
-void TradePanel::RemoveTAButton_Click() {
-    ksm::RemoveTAButton_Click(game);
-    Apply({});
-}
-
-void TradePanel::TradePlayer_Click(int player) {
-    Apply(ksm::TradePlayer_Click(game, player));
-}
-
-void TradePanel::Apply(const TradeOutcome& outcome) {
-    ShowInfo();
-    if (outcome.ValuesChange) {
-        emit InputChanged();
-    }
-    // A new line covers the others; where all are drawn anew, the old ones go.
-    const bool anew = outcome.Diagram == DiagramChange::Redraw;
-    const std::size_t first = anew ? 0 : game.TradeStrokes.size();
-    ShowStrokes(std::span(game.TradeStrokes).subspan(first));
-    DrawOutcome(game, outcome);
-    ShowStrokes(std::span(game.TradeStrokes).subspan(first));
+    BeginAdding(game);
     emit Changed();
 }
 
-void TradePanel::PlaceLabel(int player) {
-    const Point place = PlaceInRing(player, game.Player(player).TradeRing);
-    TradePlayer[player]->move(place.X, place.Y);
+void TradePanel::RemoveTAButton_Click() {
+    BeginRemoving(game);
+    emit Changed();
 }
 
-void TradePanel::SetLabelVisible(int player, bool visible) {
-    TradePlayer[player]->setVisible(visible);
+void TradePanel::TradePlayer_Click(int player) {
+    if (PickPlayer(game, player)) {
+        Recompute(game);
+    }
+    emit Changed();
 }
 
+void TradePanel::ShowGame() {
+    for (int player = 1; player <= game.NumPlayers; ++player) {
+        ShowPlayer(player);
+    }
+    TradeNumber->SetCaption(QString::fromStdString(TradeCountSentence(game.TradeCount)));
+    ShowInfo();
+    ShowDiagram();
+}
+
+void TradePanel::ShowPlayer(int player) {
+    const PlayerRecord& record = game.Player(player);
+    CaptionLabel* label = TradePlayer[player];
+    label->move(ToQPoint(PlaceInRing(player, record.TradeRing)));
+    label->SetCaption(QString::fromStdString(record.ShortName));
+    label->SetColours(record.TradeColours);
+}
+
+void TradePanel::ShowInfo() {
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
+}
+
+// A line covers those drawn before it: what follows the first that differs is painted anew.
 void TradePanel::ShowDiagram() {
-    update();
+    const auto [old, drawn] = std::ranges::mismatch(shownStrokes, game.TradeStrokes);
+    PaintAnew({old, shownStrokes.end()});
+    PaintAnew({drawn, game.TradeStrokes.end()});
+    shownStrokes = game.TradeStrokes;
 }
 
-void TradePanel::ShowStrokes(std::span<const Stroke> strokes) {
+void TradePanel::PaintAnew(std::span<const Stroke> strokes) {
     for (const Stroke& stroke : strokes) {
         const int edge = stroke.Width;
         update(QRect(ToQPoint(stroke.From), ToQPoint(stroke.To))
@@ -120,23 +129,13 @@ void TradePanel::ShowStrokes(std::span<const Stroke> strokes) {
     }
 }
 
-void TradePanel::ShowInfo() {
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
-}
-
-void TradePanel::ShowPlayer(int player) {
-    const PlayerRecord& record = game.Player(player);
-    TradePlayer[player]->SetCaption(QString::fromStdString(record.ShortName));
-    TradePlayer[player]->SetColours(record.TradeColours);
-}
-
-void TradePanel::ShowValues() {
-    TradeNumber->SetCaption(QString::fromStdString(TradeCountSentence(game.TradeCount)));
+QWidgetList TradePanel::PlayerControls(int player) const {
+    return {TradePlayer[player]};
 }
 
 void TradePanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    for (const Stroke& stroke : game.TradeStrokes) {
+    for (const Stroke& stroke : shownStrokes) {
         DrawEvenLine(painter, ToQPoint(stroke.From), ToQPoint(stroke.To), stroke.Width,
                      ToQColor(stroke.Colour));
     }

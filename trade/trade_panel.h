@@ -1,8 +1,8 @@
 // The trade panel: the players' labels in a ring, the lines between them, buttons and messages.
 #pragma once
 
+#include "model/game_state.h"
 #include "model/per_player.h"
-#include "trade/trade_agreements.h"
 
 #include <QWidget>
 
@@ -20,25 +20,12 @@ class TradePanel : public QWidget {
 public:
     TradePanel(Game& shown, QWidget* parent);
 
-    /// Does what a click here or a trade law asks for: message, values, diagram.
-    void Apply(const TradeOutcome& outcome);
-
-    /// Places the player's label in the ring where the player last had a place.
-    void PlaceLabel(int player);
-    void SetLabelVisible(int player, bool visible);
-
-    /// Shows the lines as they were drawn.
-    void ShowDiagram();
-    /// Shows the prompt or the result of a selection.
-    void ShowInfo();
-    /// Shows the player's short name and colours; lines already drawn keep theirs.
-    void ShowPlayer(int player);
-    /// Shows the count of agreements.
-    void ShowValues();
+    /// Shows labels, lines, messages and the count of agreements.
+    void ShowGame();
+    /// What is seen while the player is in the game.
+    QWidgetList PlayerControls(int player) const;
 
 signals:
-    /// An input of the figures changed: they are recomputed and shown before this returns.
-    void InputChanged();
     /// What the user did is done.
     void Changed();
 
@@ -52,7 +39,10 @@ private:
     void AddTAbutton_Click();
     void RemoveTAButton_Click();
     void TradePlayer_Click(int player);
-    void ShowStrokes(std::span<const Stroke> strokes);
+    void ShowPlayer(int player);
+    void ShowInfo();
+    void ShowDiagram();
+    void PaintAnew(std::span<const Stroke> strokes);
 
     Game& game;
     PerPlayer<CaptionLabel*> TradePlayer;
@@ -60,6 +50,7 @@ private:
     QPushButton* RemoveTAButton = nullptr;
     MessageLabel* TInfo = nullptr;
     CaptionLabel* TradeNumber = nullptr;
+    Strokes shownStrokes;
 };
 
 } // namespace ksm

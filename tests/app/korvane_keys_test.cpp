@@ -81,9 +81,9 @@ TEST(Keys, ReturnDoesWhatSpaceDoes) {
             game.Focus(control);
             game.Press(key);
         }
-        EXPECT_TRUE(game.state.Player(2).Enviro);
-        EXPECT_EQ(game.state.TradeMode, TradeMode::AddPartner);
-        EXPECT_TRUE(game.state.Started);
+        EXPECT_TRUE(game.state.Game.Player(2).Enviro);
+        EXPECT_EQ(game.state.Game.TradeMode, TradeMode::AddPartner);
+        EXPECT_TRUE(game.state.Game.Started());
     }
 }
 
@@ -93,7 +93,7 @@ TEST(Keys, ARaceBoxPassesOnWhatTheMainWindowNeeds) {
     game.Focus("Race(2)");
     QTest::keyClicks(QApplication::focusWidget(), "x");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_FALSE(game.state.Player(1).Enviro);
+    EXPECT_FALSE(game.state.Game.Player(1).Enviro);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_X, Qt::ControlModifier);
     EXPECT_FALSE(game.window.isVisible());
 }

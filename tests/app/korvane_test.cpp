@@ -11,7 +11,7 @@ namespace {
 
 TEST(MainWindow, EveryFigureIsExplainedToItsPlayer) {
     const GameWindow game;
-    const Game& state = game.state;
+    const Game& state = game.state.Game;
     for (const int player : {1, 10}) {
         for (const auto& [label, text] :
              {std::pair{"PlayerInfluence", ExplanationText(state, player, Figure::Influence)},
@@ -52,15 +52,16 @@ TEST(Setup, OnlyAnEntryTakenFromTheListChoosesARace) {
 
     game.Race(1, Race::Altheran);
     EXPECT_EQ(game.Caption("PlayerPlanets", 1), "1");
-    game.state.Planet(0).Owner = 5;
+    game.state.Game.Planet(0).Owner = 5;
     game.Race(1, Race::Altheran);
-    EXPECT_EQ(game.state.Planet(0).Owner, 1) << "choosing the same entry again takes the home back";
+    EXPECT_EQ(game.state.Game.Planet(0).Owner, 1)
+        << "choosing the same entry again takes the home back";
     QTest::keyClick(box, Qt::Key_Down);
     ASSERT_TRUE(box->view()->isVisible());
     QTest::keyClick(box->view(), Qt::Key_Down);
     QTest::keyClick(box->view(), Qt::Key_Return);
     EXPECT_EQ(game.Caption("RaceLabel", 2), "Quorvi");
-    EXPECT_EQ(game.state.Planet(0).Owner, 1) << "the entries passed over take no homes";
+    EXPECT_EQ(game.state.Game.Planet(0).Owner, 1) << "the entries passed over take no homes";
 }
 
 } // namespace

@@ -37,18 +37,18 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
     GameWindow shown;
     GameState loaded = played.state;
     QObject::connect(&played.window, &Korvane::Changed, [&] {
-        const ReadGameResult read = ReadGame(WriteGame(played.state));
-        ASSERT_TRUE(read.Game) << read.Problem.toStdString();
-        loaded = *read.Game;
+        const Outcome<GameState> read = ReadGame(*WriteGame(played.state));
+        ASSERT_TRUE(read) << read.Reason();
+        loaded = *read;
         // A file holds no marks of a drag, and who reads it ranks the players anew.
         loaded.View = played.state.View;
-        loaded.TurnOrderRows = played.state.TurnOrderRows;
+        loaded.Game.TurnOrderRows = played.state.Game.TurnOrderRows;
     });
     const QSignalSpy announced(&shown.window, &Korvane::Changed);
     RandomPlay play(played, 8);
     for (int step = 1; step <= 250 && !testing::Test::HasFailure(); ++step) {
         SCOPED_TRACE(step);
-        if (step == 100 && !played.state.Started) {
+        if (step == 100 && !played.state.Game.Started()) {
             played.Start();
         }
         play.Step();
@@ -79,6 +79,40 @@ TEST(ShowGame, ALoadedGameTakesThePlaceOfAnyOther) {
         GameWindow made(loaded);
         ExpectSame(game, made);
     }
+}
+
+/// Names the controls that are painted while it lives.
+class Painted : public QObject {
+public:
+    Painted() { qApp->installEventFilter(this); }
+    QSet<QString> Names;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            Names << watched->objectName();
+        }
+        return false;
+    }
+};
+
+TEST(ShowGame, PaintsWhatChangedAndNoMore) {
+    GameWindow game;
+    game.Activate();
+    game.Start();
+    OnScreen(game.window);
+    Painted painted;
+    game.Click("Enviro", 2);
+    OnScreen(game.window);
+    // The figures beside it reach a pixel into the influence, and the rest lies below.
+    EXPECT_EQ(painted.Names,
+              QSet<QString>({"Enviro(2)", "PellamTools(2)", "Micro(2)", "PlayerInfluence(2)",
+                             "PlayerResources(2)", "PlayerPlanets(2)", "PInf(1)", "PInf(2)",
+                             "UpLefPic", "", "Korvane"}));
+    painted.Names.clear();
+    game.window.ShowGame();
+    OnScreen(game.window);
+    EXPECT_TRUE(painted.Names.isEmpty());
 }
 
 TEST(ShowGame, OpenNotesShowTheLoadedTextForGood) {

@@ -1,12 +1,15 @@
 #include "controls/accessible_names.h"
 #include "controls/choice_box.h"
 #include "controls/input_guard.h"
+#include "controls/shape_frame.h"
 #include "controls/spin_bar.h"
 #include "tests/window_test.h"
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -41,6 +44,48 @@ TEST(CaptionLabel, ClicksWhenItIsClickableAndTheLeftButtonIsReleasedOnIt) {
     EXPECT_EQ(clicks.count(), 0);
     QTest::mouseClick(&label, Qt::LeftButton);
     EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST(FramedBar, LeavesARightClickToItsWindow) {
+    QWidget window;
+    window.setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy menus(&window, &QWidget::customContextMenuRequested);
+    FramedBar bar("Bar", QRect(0, 0, 17, 90), &window);
+    window.show();
+    // Qt's own menu would wait for a choice.
+    QTimer::singleShot(0, &bar, [] {
+        if (QWidget* menu = QApplication::activePopupWidget()) {
+            menu->close();
+        }
+    });
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5), bar.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&bar, &click);
+    EXPECT_EQ(menus.count(), 1);
+}
+
+TEST(LineControl, IsAsThickEverywhereAtAnyScale) {
+    QWidget window;
+    window.resize(20, 5);
+    for (const int left : {0, 5, 10, 15}) {
+        new LineControl("Line", QRect(left, 0, 1, 5), &window);
+    }
+    for (const auto& [scale, thick] :
+         {std::pair{1.0, 1}, {1.25, 1}, {1.5, 2}, {1.75, 2}, {2.5, 3}}) {
+        QImage seen(window.size() * scale, QImage::Format_RGB32);
+        seen.setDevicePixelRatio(scale);
+        window.render(&seen);
+        int black = 0;
+        QList<int> thicknesses;
+        for (int x = 0; x < seen.width(); ++x) {
+            black = seen.pixelColor(x, 2) == Qt::black ? black + 1 : 0;
+            if (black == 1) {
+                thicknesses.append(1);
+            } else if (black > 1) {
+                ++thicknesses.last();
+            }
+        }
+        EXPECT_EQ(thicknesses, QList<int>(4, thick)) << scale;
+    }
 }
 
 struct SpinBars : testing::Test {

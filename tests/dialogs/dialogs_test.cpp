@@ -1,10 +1,14 @@
 #include "dialogs/about_form.h"
+#include "dialogs/color_select_form.h"
 #include "dialogs/note_form.h"
 #include "dialogs/tech_form.h"
 #include "model/game_state.h"
 #include "tests/window_test.h"
 
+#include <QClipboard>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 
 namespace ksm {
@@ -19,8 +23,19 @@ TEST_F(Dialogs, AddressesCannotBeChanged) {
     form->show();
     for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
         const QString address = box->text();
+        QGuiApplication::clipboard()->setText("x");
+        box->selectAll();
+        for (const auto key : {QKeySequence::Cut, QKeySequence::Paste, QKeySequence::Undo}) {
+            QTest::keySequence(box, key);
+        }
         QTest::keyClicks(box, "x");
+        QMimeData dragged;
+        dragged.setText("x");
+        QDropEvent drop({5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(box, &drop);
         EXPECT_EQ(box->text(), address);
+        QTest::keySequence(box, QKeySequence::Copy);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), address);
     }
     QTest::mouseClick(form->findChild<QPushButton*>("Command1"), Qt::LeftButton);
     EXPECT_TRUE(IsUnloaded(form));
@@ -38,6 +53,32 @@ TEST_F(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
         box.insertPlainText(QString::fromUtf8("\né€\t😀"));
         EXPECT_EQ(game.NotesText, "tax\né€\t😀");
     }
+}
+
+TEST_F(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
+    GameState game;
+    game.View.EditedPlayer = 3;
+    ColorSelectForm form(game, &owner);
+    const QSignalSpy changes(&form, &ColorSelectForm::Changed);
+    for (const char* name : {"NameEntry", "ShortNameEntry"}) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8("a\tb\nc\u2028d\u00A0e\u200D"));
+        auto& box = *form.findChild<QLineEdit*>(name);
+        box.selectAll();
+        box.paste();
+    }
+    EXPECT_EQ(changes.count(), 2) << "the name brings its short name along";
+    EXPECT_EQ(game.Game.Player(3).Name, "a b c d\u00A0e\u200D");
+    EXPECT_EQ(game.Game.Player(3).ShortName, "a b c d\u00A0e\u200D");
+}
+
+TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
+    GameState game;
+    game.NotesText = "tax";
+    const NoteForm form(game, &owner);
+    // As an empty clipboard under X11 does: data without a format.
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    form.findChild<QPlainTextEdit*>("Aant")->paste();
+    EXPECT_EQ(game.NotesText, "tax");
 }
 
 TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {

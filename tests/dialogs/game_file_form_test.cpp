@@ -42,7 +42,7 @@ TEST_F(GameFileForms, TheNameIsCompletedAndTheGameSaved) {
         EXPECT_EQ(Box()->text(), "savegame.ksm");
         Box()->setText(typed);
         Press("Sav");
-        EXPECT_TRUE(IsUnloaded(form) && LoadGameFile(used).Game) << typed;
+        EXPECT_TRUE(IsUnloaded(form) && LoadGameFile(used)) << typed;
     }
     EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 4);
 }
@@ -73,7 +73,7 @@ TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
     Open(load);
     QByteArrayList loaded;
     QObject::connect(load, &LoadForm::GameLoaded,
-                     [&](const GameState& read) { loaded << WriteGame(read); });
+                     [&](const GameState& read) { loaded << *WriteGame(read); });
     auto* list = form->findChild<QListWidget*>("File1");
     QTest::keyClick(list, Qt::Key_Down);
     EXPECT_EQ(Box()->text(), "first.ksm");
@@ -84,7 +84,7 @@ TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
         EXPECT_EQ(AsRead(list->item(row)->toolTip()), list->item(row)->text());
         row == 1 ? QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place) : void();
     }
-    EXPECT_EQ(loaded, QByteArrayList{WriteGame(game)});
+    EXPECT_EQ(loaded, QByteArrayList{*WriteGame(game)});
     EXPECT_TRUE(IsUnloaded(form));
 }
 

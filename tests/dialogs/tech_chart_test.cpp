@@ -28,7 +28,7 @@ bool LiesOn(const Connector& line, Point p) {
 /// Which boxes a line from there comes from: one on whose edge it begins, or those of the line that
 /// it leaves, or those of all lines into the diamond above it.
 std::set<int> Origins(const TechChart& chart, Point start) {
-    for (int box = 0; const Technology& technology : chart.Label1) {
+    for (int box = 0; const TechBox& technology : chart.Label1) {
         if (Contains(technology.Place, technology.Width, TechBoxHeight, start)) {
             return {box};
         }
@@ -50,7 +50,7 @@ std::set<int> Origins(const TechChart& chart, Point start) {
 
 TEST(TechCharts, LeadALineFromEveryPrerequisite) {
     for (const TechChart& chart : {StandardChart(), ExpansionChart()}) {
-        for (const Technology& box : chart.Label1) {
+        for (const TechBox& box : chart.Label1) {
             std::multiset<std::set<int>> expected, found;
             for (const int source : box.Sources) {
                 expected.insert({source});

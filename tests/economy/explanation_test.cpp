@@ -17,9 +17,8 @@ using enum Figure;
 struct Explanations : testing::Test, Game {
     Explanations() {
         NumPlayers = MaxPlayers;
-        TakePlanets(*this, ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
-                                          "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9")
-                               .Planets);
+        SetPlanets(*this, *ReadPlanetList("Quessin,2,1,r\rIth,3,2,b\rVeran,1,0,g\r"
+                                          "Caldry,1,0,r\rAldis\rMorn\rSol\rFar,9,9"));
         for (int planet = 0; planet < 7; ++planet) {
             Planet(planet).Owner = planet < 3 ? 4 : 10;
         }
@@ -39,7 +38,7 @@ struct Explanations : testing::Test, Game {
 TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
     const std::string resources = " = 2 Quessin\n+ 3 Ith\n+ 1 Veran";
     const std::string influence = " = 1 Quessin\n+ 2 Ith";
-    const std::string law = "\nLabour Union: influence and resources change places";
+    const std::string law = "\nLabour Union: influence and resources are swapped";
     EXPECT_EQ(Text(Figure::Planets), "Planets 3 = 1 Quessin\n+ 1 Ith\n+ 1 Veran");
     EXPECT_EQ(Text(Resources), "Resources 6" + resources);
     dora.PellamTools = true;
@@ -62,8 +61,9 @@ TEST_F(Explanations, OfResourcesInfluenceAndPlanets) {
     EXPECT_EQ(Text(Resources), "Resources 0" + law);
     NumPlanets = 13;
     std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, Specialty::Red, 4});
-    EXPECT_EQ(Text(Influence), "Influence 26 = 26 of 13 planets" + law);
-    EXPECT_EQ(Text(RedCost), "Red cost 4 = 30 base cost of Altheran\n- 26 of 13 planets");
+    EXPECT_EQ(Text(Influence), "Influence 26 = 26 from planets" + law);
+    EXPECT_EQ(Text(Figure::Planets), "Planets 13 = 13 planets (a click on the owner lists them)");
+    EXPECT_EQ(Text(RedCost), "Red cost 4 = 30 base cost of Altheran\n- 26 from planets");
 }
 
 TEST_F(Explanations, OfCredits) {
@@ -73,7 +73,7 @@ TEST_F(Explanations, OfCredits) {
     EXPECT_EQ(Text(Credits), "Credits 13" + emil + "\n+ 3 Micro Tech. (1 partner)");
     NumPlayers = 9;
     EXPECT_EQ(ExplanationText(*this, 4, Credits),
-              "Credits 13" + emil + "\n+ 3 for the number of players before");
+              "Credits 13, computed for another number of players");
     EXPECT_EQ(Text(Credits), "Credits 10" + emil);
     Laws.TradeRestrictions = Laws.FreeTrade = true;
     Cell(1, 4) = Agreement;
@@ -88,7 +88,7 @@ TEST_F(Explanations, OfCredits) {
 TEST_F(Explanations, OfCosts) {
     RedModifier = 18;
     YellowModifier = 0;
-    const std::string base = "30 base cost of everybody\n";
+    const std::string base = "30 base cost\n";
     EXPECT_EQ(Text(RedCost), "Red cost 31 = " + base + "- 2 Quessin\n+ 3 Tech Modifiers");
     EXPECT_EQ(Text(YellowCost), "Yellow cost 15 = " + base + "- 15 Tech Modifiers");
     dora.PellamTools = true;
@@ -101,19 +101,21 @@ TEST_F(Explanations, OfCosts) {
     Planet(2).Resources = 40;
     EXPECT_EQ(Text(GreenCost), "Green cost 0 = 20 base cost of Ith-Veran\n- 40 Veran\n"
                                "- 1 Pellam Tools (1 planet)\n"
-                               "+ 21 the discount is cut at the base cost");
+                               "+ 21 (the discount is limited to the base cost)");
     EXPECT_EQ(Text(RedCost), "Red cost 43 = 40 base cost of Ith-Veran\n+ 3 Tech Modifiers");
 }
 
 TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
-    EXPECT_EQ(DockText(*this, 4), "Space Docks 1: they bring influence with Enviro Comp.");
+    EXPECT_EQ(DockText(*this, 4), "Space Docks 1 would count as influence with Enviro Comp.");
     dora.Enviro = true;
-    EXPECT_EQ(DockText(*this, 4), "Space Docks 1: 1 influence by Enviro Comp.");
+    EXPECT_EQ(DockText(*this, 4), "Space Docks 1 count as influence");
+    Laws.LabourUnion = true;
+    EXPECT_EQ(DockText(*this, 4), "Space Docks 1 count as resources (Labour Union)");
     NumPlayers = 6;
     for (const auto& [player, influence, resources] :
          {std::tuple{4, 9, 5}, {5, 9, 2}, {6, 9, 2}, {1, 7, 0}, {10, -1, 0}}) {
-        Player(player).Influence = influence;
-        Player(player).Resources = resources;
+        Player(player).Figures.Influence = influence;
+        Player(player).Figures.Resources = resources;
     }
     TurnOrder(*this);
     EXPECT_EQ(RankText(*this, 1), "before Player 5: equal influence, more resources");
@@ -143,7 +145,7 @@ Game RandomGame(std::mt19937& random) {
     for (int player = 2; player <= MaxPlayers; ++player) {
         PlayerRecord& record = game.Player(player);
         record.Race = static_cast<Race>(pick(RaceCount));
-        TakeCostsOfRace(record);
+        SetCostsOfRace(record);
         record.SpaceDocks = pick(MaxSpaceDocks);
         record.Enviro = pick(1) == 1;
         record.PellamTools = pick(1) == 1;

@@ -8,7 +8,7 @@ namespace {
 
 Game GameWithPlanets(const char* names) {
     Game game;
-    TakePlanets(game, ReadPlanetList(names).Planets);
+    SetPlanets(game, *ReadPlanetList(names));
     return game;
 }
 

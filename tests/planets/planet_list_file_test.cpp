@@ -25,6 +25,8 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"\xEF\xBB\xBFZo\xC3\xAB,1", {"Zo\xC3\xAB", 1, 0, None}},
     {"\xEF\xBB\xBF'comment\rAlpha", {"Alpha", 0, 0, None}},
     {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
+    {"\xF4\x8F\xBF\xBF", {"\xF4\x8F\xBF\xBF", 0, 0, None}}, // the last character of Unicode
+    {"\xF4\x90\x80\x80", {"\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC", 0, 0, None}},
     {"\xED\xA0\x80", {"\xC3\xAD\xC2\xA0\xE2\x82\xAC", 0, 0, None}},
     // Numbers.
     {"N,3x,1,Blue", {"N", 3, 1, Blue}},
@@ -45,16 +47,16 @@ const std::pair<std::string, PlanetRecord> Lines[]{
 
 TEST(PlanetList, ReadsALineAs) {
     for (const auto& [line, planet] : Lines) {
-        const PlanetListResult result = ReadPlanetList(line);
-        EXPECT_TRUE(result.Problems.empty()) << DescribeProblems(line, result.Problems);
-        EXPECT_EQ(result.Planets, std::vector{planet}) << testing::PrintToString(line);
+        const Outcome<PlanetList> result = ReadPlanetList(line);
+        ASSERT_TRUE(result) << result.Reason();
+        EXPECT_EQ(*result, PlanetList{planet}) << testing::PrintToString(line);
     }
 }
 
 TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
     std::string names;
-    for (const PlanetRecord& planet :
-         ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n").Planets) {
+    const auto list = ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n");
+    for (const PlanetRecord& planet : *list) {
         names += planet.Name + '|';
     }
     EXPECT_EQ(names, "A||B||C\n|");
@@ -63,17 +65,19 @@ TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
 TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLineUpToTen) {
     const std::string nines(400, '9');
     const std::string list = "'c\r\nA,256,-1\r\nB,255.5\r\nC,-0.5,1e400\rD,&H100\rE," + nines;
-    EXPECT_EQ(DescribeProblems("Original.pln", ReadPlanetList(list).Problems),
-              "The planet list Original.pln cannot be used.\n"
-              "\nLine 2: resources 256 (allowed: 0 to 255)"
+    EXPECT_EQ(ReadPlanetList(list).Reason(),
+              "Line 2: resources 256 (allowed: 0 to 255)"
               "\nLine 2: influence -1 (allowed: 0 to 255)"
               "\nLine 3: resources 255.5 (allowed: 0 to 255)"
               "\nLine 4: influence 1e400 (allowed: 0 to 255)"
               "\nLine 5: resources &H100 (allowed: 0 to 255)"
               "\nLine 6: resources 99999999999999999999... (allowed: 0 to 255)");
-    const std::vector<PlanetListProblem> dozen(12, {7, "resources 300", "0 to 255"});
-    const std::string message = DescribeProblems("f", dozen);
-    EXPECT_EQ(std::ranges::count(message, '7'), 10);
+    std::string dozen;
+    for (int line = 1; line <= 12; ++line) {
+        dozen += "A,777\r\n";
+    }
+    const std::string message = ReadPlanetList(dozen).Reason();
+    EXPECT_EQ(std::ranges::count(message, 'L'), 10);
     EXPECT_TRUE(message.ends_with("\nand 2 more"));
 }
 
@@ -84,37 +88,33 @@ TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
         most += "P\r\n";
         pool.at(static_cast<std::size_t>(planet)) = static_cast<std::uint8_t>(planet);
         Game game;
-        TakePlanets(game, ReadPlanetList(most).Planets);
+        SetPlanets(game, *ReadPlanetList(most));
         EXPECT_EQ(game.NumPlanets, planet + 1);
-        EXPECT_EQ(game.Player(NeutralOwner).PlanetCount, planet + 1);
+        EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, planet + 1);
         EXPECT_EQ(game.Player(NeutralOwner).PlanetList, pool);
     }
-    const PlanetListResult more = ReadPlanetList(most + "'c\rQ\rR");
-    EXPECT_EQ(more.Problems,
-              (std::vector<PlanetListProblem>{{103, "planet 102", "1 to 101 planets"}}))
+    EXPECT_EQ(ReadPlanetList(most + "'c\rQ\rR").Reason(),
+              "Line 103: planet 102 (allowed: 1 to 101 planets)")
         << "reported once, not for every line too many";
-    EXPECT_EQ(more.Planets.size(), 101U);
 }
 
 TEST(PlanetList, WithoutAPlanetOrAFileIsAProblem) {
     for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'feeds\nA\r"}) {
-        EXPECT_EQ(ReadPlanetList(text).Problems,
-                  (std::vector<PlanetListProblem>{{0, "no planet", "1 to 101 planets"}}));
+        EXPECT_EQ(ReadPlanetList(text).Reason(), "no planet (allowed: 1 to 101 planets)");
     }
-    EXPECT_EQ(ReadPlanetList("'line feeds\nA,1\n").Problems.at(0).What,
-              "no planet, since no line ends with CR LF");
-    for (const char* path : {"/no/such/file", "/"}) {
-        const std::string message = DescribeProblems(path, ReadPlanetListFile(path).Problems);
-        EXPECT_TRUE(message.find("\nthe file cannot be read: ") != std::string::npos) << message;
-    }
+    EXPECT_EQ(ReadPlanetList("'line feeds\nA,1\n").Reason(),
+              "no planet, since no line ends with CR LF (allowed: 1 to 101 planets)");
+    EXPECT_EQ(ReadPlanetListFile("/no/such").Reason(),
+              "The planet list /no/such cannot be used.\n\nNo such file or directory");
+    EXPECT_TRUE(ReadPlanetListFile("/").Reason().ends_with("\n\nThis is not a file."));
 }
 
 TEST(PlanetList, TheDeliveredListIsFitForPlay) {
-    const PlanetListResult list = ReadPlanetListFile(DELIVERED_PLANET_LIST);
-    ASSERT_TRUE(list.Problems.empty()) << DescribeProblems("it", list.Problems);
-    EXPECT_GE(list.Planets.size(), 60U);
+    const Outcome<PlanetList> list = ReadPlanetListFile(DELIVERED_PLANET_LIST);
+    ASSERT_TRUE(list) << list.Reason();
+    EXPECT_GE(list->size(), 60U);
     std::set<std::string> names;
-    for (const PlanetRecord& planet : list.Planets) {
+    for (const PlanetRecord& planet : *list) {
         EXPECT_TRUE(!planet.Name.empty() && names.insert(planet.Name).second) << planet.Name;
         EXPECT_LE(std::max(planet.Resources, planet.Influence), 4) << planet.Name;
     }

@@ -11,12 +11,12 @@ namespace {
 /// Twenty planets of the pool.
 GameState GameOfTwentyPlanets() {
     GameState state;
-    TakePlanets(state, std::vector<PlanetRecord>(20));
+    SetPlanets(state.Game, std::vector<PlanetRecord>(20));
     return state;
 }
 
 std::vector<int> List(const GameState& state, int owner) {
-    const PlanetIndexList& list = state.Player(owner).PlanetList;
+    const PlanetIndexList& list = state.Game.Player(owner).PlanetList;
     return {list.begin(), std::ranges::find(list, NoPlanet)};
 }
 
@@ -27,7 +27,7 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     const std::vector<int> pool = List(state, NeutralOwner);
     EXPECT_TRUE(pool.size() == 18 && pool.front() == 1 && pool.back() == 18);
     TransferPlanet(state, 19, 6);
-    EXPECT_EQ(state.Planet(19).Owner, 6);
+    EXPECT_EQ(state.Game.Planet(19).Owner, 6);
     EXPECT_EQ(List(state, 10), (std::vector{0, 19})) << "from all planets the entry stays";
     EXPECT_EQ(List(state, NeutralOwner), pool);
     state.View.BoardPlayer = 10;
@@ -42,10 +42,10 @@ TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
     EXPECT_FALSE(TransferPlanet(state, 5, NeutralOwner));
     EXPECT_FALSE(TransferPlanet(state, 20, 4)) << "a row behind the last planet of a short list";
     EXPECT_EQ(state, before);
-    state.Player(4).PlanetList.fill(9);
+    state.Game.Player(4).PlanetList.fill(9);
     state.View.BoardPlayer = 10; // whose list is empty
     GameState expected = state;
-    expected.Planet(9).Owner = 4;
+    expected.Game.Planet(9).Owner = 4;
     EXPECT_TRUE(TransferPlanet(state, 9, 4));
     EXPECT_EQ(state, expected) << "the planet changes hands all the same";
     state.View.BoardPlayer = 4;
@@ -55,14 +55,18 @@ TEST(PlanetTransfer, ToItsOwnerOrWithoutAPlanetOrToAFullListChangesNoList) {
 
 TEST(PlanetText, SaysWhoseThePlanetIsAndWhatItBrings) {
     GameState state = GameOfTwentyPlanets();
-    state.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
-    state.Planet(19) = {"Far", 0, 4};
-    EXPECT_EQ(OwnerText(state, 18), "Ith belongs to Player 10");
-    EXPECT_EQ(OwnerText(state, 19), "Far belongs to nobody");
-    EXPECT_EQ(PlanetFiguresText(state, 18),
-              "3 resources, 2 influence\nmakes green technology cheaper by its resources");
-    EXPECT_EQ(PlanetFiguresText(state, 19), "0 resources, 4 influence");
-    EXPECT_EQ(OwnerText(state, 20) + PlanetFiguresText(state, 20), "");
+    state.Game.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
+    state.Game.Planet(19) = {"Far", 0, 4};
+    EXPECT_EQ(OwnerText(state.Game, 18), "Ith belongs to Player 10");
+    EXPECT_EQ(OwnerText(state.Game, 19), "Far belongs to nobody");
+    const std::string green = "\nmakes green technology cheaper by its resources";
+    EXPECT_EQ(PlanetFiguresText(state.Game, 18), "3 resources, 2 influence" + green);
+    state.Game.Player(10).PellamTools = true;
+    state.Game.Planet(18).Resources = 1;
+    EXPECT_EQ(PlanetFiguresText(state.Game, 18),
+              "1 resource, 2 influence" + green + " and one more (Pellam Tools)");
+    EXPECT_EQ(PlanetFiguresText(state.Game, 19), "0 resources, 4 influence");
+    EXPECT_EQ(OwnerText(state.Game, 20) + PlanetFiguresText(state.Game, 20), "");
 }
 
 } // namespace

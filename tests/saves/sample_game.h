@@ -10,7 +10,7 @@ namespace ksm {
 /// The game that was saved by the first version.
 inline GameState SampleGame() {
     QFile file(FIRST_SAVED_GAME);
-    return file.open(QIODevice::ReadOnly) ? ReadGame(file.readAll()).Game.value() : GameState();
+    return file.open(QIODevice::ReadOnly) ? *ReadGame(file.readAll()) : GameState();
 }
 
 } // namespace ksm

@@ -25,8 +25,8 @@ protected:
     }
     /// Or why there are none.
     static std::string NotesIn(const QString& name) {
-        const ReadGameResult read = LoadGameFile(name);
-        return read.Game ? read.Game->NotesText : read.Problem.toStdString();
+        const Outcome<GameState> read = LoadGameFile(name);
+        return read ? read->NotesText : read.Reason();
     }
 
     const QString oldFolder = QDir::currentPath();

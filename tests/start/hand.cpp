@@ -12,6 +12,9 @@ void CloseFirstWindow() {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         const auto* box = qobject_cast<const QMessageBox*>(window);
         said << (box ? box->text() : window->isVisible() ? window->windowTitle() : QString());
+        if (window->isVisible() && window->windowIcon().pixmap(16).isNull()) {
+            said << " without an icon";
+        }
     }
     QApplication::closeAllWindows();
 }

@@ -1,6 +1,7 @@
 #include "economy/value_update.h"
 #include "trade/trade_agreements.h"
 #include "trade/trade_laws.h"
+#include "trade/trade_selection.h"
 #include "trade/trade_text.h"
 
 #include <gtest/gtest.h>
@@ -9,26 +10,26 @@ namespace ksm {
 namespace {
 
 /// Ten players whose names are "P1" to "P10".
-GameState NamedPlayers() {
-    GameState state;
+Game NamedPlayers() {
+    Game game;
     for (int player = 1; player <= MaxPlayers; ++player) {
-        state.Player(player).Name = std::string("P").append(std::to_string(player));
+        game.Player(player).Name = std::string("P").append(std::to_string(player));
     }
-    return state;
+    return game;
 }
 
 enum Click : int { Tres = 0, TStop = -1, TFree = -2, TRestr = -3, Add = -4, Remove = -5 };
 
 /// A click on a button, a law or the label of a player.
 void Do(Game& game, int click) {
-    constexpr std::array laws{Tres_Click, TStop_Click, TFree_Click, TRestr_Click};
-    if (click == Add) {
-        AddTAbutton_Click(game);
-    } else if (click == Remove) {
-        RemoveTAButton_Click(game);
+    constexpr std::array clicks{ToggleEconomicIndependence, StopTrade,   ToggleFreeTrade,
+                                ToggleTradeRestrictions,    BeginAdding, BeginRemoving};
+    if (click > 0) {
+        const TradeTable before = game.TradeAgreements;
+        const bool figuresFollow = PickPlayer(game, click);
+        EXPECT_EQ(figuresFollow, game.TradeAgreements != before);
     } else {
-        click > 0 ? TradePlayer_Click(game, click)
-                  : laws.at(static_cast<std::size_t>(-click))(game);
+        clicks.at(static_cast<std::size_t>(-click))(game);
     }
     UpdateValues(game);
 }
@@ -82,17 +83,17 @@ const std::vector<ClickCase> ClickCases{
 TEST(TradeProtocol, ClicksRecordAgreements) {
     for (const ClickCase& row : ClickCases) {
         SCOPED_TRACE(testing::PrintToString(row.Clicks));
-        GameState state = NamedPlayers();
+        Game game = NamedPlayers();
         for (const int click : row.Clicks) {
-            Do(state, click);
+            Do(game, click);
         }
         TradeTable wanted{};
         for (const auto& [maker, partner] : row.Agreements) {
             wanted.at(static_cast<std::size_t>(maker)).at(static_cast<std::size_t>(partner)) = -1;
         }
-        EXPECT_EQ(state.TradeInfo, row.Info);
-        EXPECT_EQ(state.TradeMode, row.Mode);
-        EXPECT_EQ(state.TradeAgreements, wanted);
+        EXPECT_EQ(game.TradeInfo, row.Info);
+        EXPECT_EQ(game.TradeMode, row.Mode);
+        EXPECT_EQ(game.TradeAgreements, wanted);
     }
 }
 
@@ -100,18 +101,18 @@ TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
     EXPECT_EQ(TradeCountSentence(0), "There are no Trade Agreements in play.");
     EXPECT_EQ(TradeCountSentence(1), "There is one Trade Agreement in play.");
     EXPECT_EQ(TradeCountSentence(45), "There are 45 Trade Agreements in play.");
-    GameState state = NamedPlayers();
-    state.Cell(3, 10) = state.Cell(1, 3) = Agreement;
-    state.IndepFirst = state.IndepSecond = 3; // a pair that binds nobody
-    EXPECT_EQ(TradeText(state, 2), "P2 has no Trade Agreement");
-    EXPECT_EQ(TradeText(state, 3), "P3 trades with P1, P10");
-    state.IndepSecond = 4;
-    state.Laws.FreeTrade = true;
-    EXPECT_EQ(TradeText(state, 3),
+    Game game = NamedPlayers();
+    game.Cell(3, 10) = game.Cell(1, 3) = Agreement;
+    game.IndepFirst = game.IndepSecond = 3; // a pair that binds nobody
+    EXPECT_EQ(TradeText(game, 2), "P2 has no Trade Agreement");
+    EXPECT_EQ(TradeText(game, 3), "P3 trades with P1, P10");
+    game.IndepSecond = 4;
+    game.Laws.FreeTrade = true;
+    EXPECT_EQ(TradeText(game, 3),
               "P3 trades with P1, P10\nFree Trade: five credits for each partner\n"
               "Economic Independance: no trade with P4");
-    state.Laws = {.TradeRestrictions = true};
-    EXPECT_EQ(TradeText(state, 4),
+    game.Laws = {.TradeRestrictions = true};
+    EXPECT_EQ(TradeText(game, 4),
               "P4 has no Trade Agreement\nTrade Restrictions: an agreement brings the smaller "
               "planet count of the two\nEconomic Independance: no trade with P3");
 }

@@ -1,0 +1,133 @@
+#include "model/history.h"
+
+#include <gtest/gtest.h>
+
+namespace ksm {
+namespace {
+
+/// A game whose steps are space docks of player 1.
+struct Steps {
+    GameState state;
+    History history{state.Game};
+
+    void Docks(int docks) {
+        state.Game.Player(1).SpaceDocks = docks;
+        history.Record(state.Game);
+    }
+    void Select(TradeMode mode, int first) {
+        state.Game.TradeMode = mode;
+        state.Game.TradeFirst = first;
+        history.Record(state.Game);
+    }
+    void Load(int docks, const std::string& notes) {
+        const std::string before = state.NotesText;
+        state.Game.Player(1).SpaceDocks = docks;
+        state.NotesText = notes;
+        history.RecordLoad(state, before);
+        history.Record(state.Game); // as every change is
+    }
+    /// The docks at each step, from the last one back to the beginning.
+    std::vector<int> Back() {
+        std::vector<int> docks{state.Game.Player(1).SpaceDocks};
+        while (history.CanUndo()) {
+            history.Undo(state);
+            docks.push_back(state.Game.Player(1).SpaceDocks);
+        }
+        return docks;
+    }
+};
+
+TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
+    Steps steps;
+    steps.Docks(2);
+    steps.history.BeginStep();
+    steps.Docks(3);
+    steps.Docks(2); // back where it began in between
+    steps.Docks(4);
+    steps.history.BeginStep(); // within the first
+    steps.Docks(5);
+    steps.Docks(6);
+    steps.history.EndStep();
+    steps.history.EndStep();
+    steps.Docks(7);
+    EXPECT_EQ(steps.Back(), (std::vector{7, 6, 4, 2, 1}));
+}
+
+TEST(History, AStepGoesOnUnlessSomethingCameBetween) {
+    for (const bool between : {false, true}) {
+        Steps steps;
+        steps.history.BeginStep();
+        steps.Docks(2);
+        steps.history.EndStep();
+        if (between) {
+            steps.Docks(9);
+        }
+        steps.history.ResumeStep();
+        steps.Docks(3);
+        steps.history.EndStep();
+        EXPECT_EQ(steps.Back(), between ? (std::vector{3, 9, 2, 1}) : (std::vector{3, 1}));
+    }
+}
+
+TEST(History, AStepTakenBackWhileItIsOpenBeginsAnew) {
+    Steps steps;
+    steps.history.BeginStep();
+    steps.Docks(2);
+    steps.history.Undo(steps.state);
+    steps.Docks(3);
+    steps.Docks(4);
+    steps.history.EndStep();
+    EXPECT_EQ(steps.history.UndoTexts(10), std::vector<std::string>{"Space Docks, Player 1"});
+    EXPECT_FALSE(steps.history.CanRedo());
+    EXPECT_EQ(steps.Back(), (std::vector{4, 1}));
+}
+
+TEST(History, ALoadIsAStepOfItsOwnAndTakesItsNotesAlong) {
+    Steps steps;
+    steps.state.NotesText = "mine";
+    steps.Docks(2);
+    steps.Load(5, "theirs");
+    EXPECT_EQ(steps.history.UndoText(), "Load Game");
+    for (const char* typed : {"", "typed since"}) {
+        const std::string notes = *typed != '\0' ? typed : "theirs";
+        steps.state.NotesText = notes;
+        steps.history.Undo(steps.state);
+        EXPECT_EQ(steps.state.NotesText, *typed != '\0' ? typed : "mine");
+        EXPECT_EQ(steps.state.Game.Player(1).SpaceDocks, 2);
+        EXPECT_EQ(steps.history.RedoText(), "Load Game");
+        steps.history.Redo(steps.state);
+        EXPECT_EQ(steps.state.NotesText, notes);
+    }
+    steps.Load(5, "other notes");
+    steps.Load(5, "other notes"); // which is the same
+    EXPECT_EQ(steps.Back(), (std::vector{5, 5, 2, 1}));
+}
+
+TEST(History, ASelectionBelongsToTheStepThatBeganItButNotToALoad) {
+    Steps steps;
+    steps.state.Game.TradeMode = TradeMode::AddFirst;
+    steps.Load(5, "");
+    steps.Select(TradeMode::AddPartner, 3);
+    steps.state.Game.Cell(3, 5) = Agreement;
+    steps.Select(TradeMode::Idle, 3);
+    EXPECT_EQ(steps.history.UndoTexts(10),
+              (std::vector<std::string>{"agreement of Player 3 and Player 5", "Load Game"}));
+    EXPECT_EQ(steps.history.UndoTexts(1).size(), 1U);
+    steps.history.Undo(steps.state);
+    EXPECT_EQ(steps.state.Game.TradeMode, TradeMode::AddFirst);
+}
+
+TEST(History, NothingIsLeftOfWhatCannotBeReached) {
+    Steps steps;
+    steps.Docks(2);
+    steps.Docks(3);
+    steps.history.Undo(steps.state);
+    steps.Docks(4);
+    EXPECT_FALSE(steps.history.CanRedo());
+    steps.history.Restart(steps.state.Game);
+    EXPECT_FALSE(steps.history.CanUndo());
+    EXPECT_EQ(steps.history.UndoText() + steps.history.RedoText(), "");
+}
+
+} // namespace
+} // namespace ksm
