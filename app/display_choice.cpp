@@ -11,15 +11,15 @@ namespace ksm {
 
 namespace {
 
-void ExplainFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+void ExplainFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type == QtFatalMsg) {
         std::fputs("ksm: There is no display that the window can be shown on; start the program on "
                    "a desktop.\n",
                    stderr);
         std::_Exit(EXIT_FAILURE);
     }
-    // What the parts of Qt that look for a display say on the way is in the sentence.
-    if (!QByteArrayView(context.category).startsWith("qt.qpa.")) {
+    // What Qt says by itself on the way is in the sentence; what somebody asked it to tell is not.
+    if (type == QtDebugMsg) {
         std::fputs(qUtf8Printable(message + '\n'), stderr);
     }
 }

@@ -1,6 +1,6 @@
 #include "app/fixed_size_guard.h"
 
-#include <QPlatformSurfaceEvent>
+#include <QResizeEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -8,35 +8,39 @@ namespace ksm {
 
 namespace {
 
-/// Takes the limits of the window's size away or gives them back, unseen by its widget.
-void SetLimits(QWindow& window, bool limited) {
-    if (const QWidget* widget = QWidget::find(window.winId())) {
-        window.setMinimumSize(limited ? widget->minimumSize() : QSize(0, 0));
-        window.setMaximumSize(limited ? widget->maximumSize()
-                                      : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
-    }
+bool SaysMaximised(const QWindow& window) {
+    return window.windowStates().testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen);
 }
 
-} // namespace
+/// Qt would keep a window from the size that it has to fill.
+void LiftLimits(QWindow& window) {
+    window.setMinimumSize(QSize(0, 0));
+    window.setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
 
-bool FixedSizeGuard::eventFilter(QObject* watched, QEvent* event) {
-    if (!watched->isWindowType()) {
-        return false;
-    }
-    auto* window = static_cast<QWindow*>(watched);
-    switch (event->type()) {
-    case QEvent::PlatformSurface:
-        if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
-            QPlatformSurfaceEvent::SurfaceCreated) {
-            Watch(window);
+/// Whether the event is to go no further.
+bool Guard(QWindow& window, const QSize& size, const QEvent& event) {
+    // Whether the desktop holds it maximised, whatever it has asked for since.
+    constexpr auto Held = "HeldMaximised";
+    switch (event.type()) {
+    case QEvent::Expose:
+        LiftLimits(window);
+        break;
+    case QEvent::Resize:
+        if (static_cast<const QResizeEvent&>(event).size() != size &&
+            !window.property(Held).toBool()) {
+            window.resize(size);
+            return true;
         }
         break;
-    // The desktop has maximised it; or it has not, and the pointer is back from the button.
     case QEvent::WindowStateChange:
+        window.setProperty(Held, SaysMaximised(window));
+        [[fallthrough]];
+    // The desktop may not maximise it; then the pointer comes back from the button.
     case QEvent::Enter:
-        if (window->windowStates().testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen)) {
-            const auto restore = [window] { window->setWindowStates(Qt::WindowNoState); };
-            QMetaObject::invokeMethod(window, restore, Qt::QueuedConnection);
+        if (SaysMaximised(window)) {
+            const auto restore = [&window] { window.setWindowStates(Qt::WindowNoState); };
+            QMetaObject::invokeMethod(&window, restore, Qt::QueuedConnection);
         }
         break;
     default:
@@ -45,10 +49,13 @@ bool FixedSizeGuard::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-void FixedSizeGuard::Watch(QWindow* window) {
-    // The button announces what it asks for before the desktop can answer.
-    connect(window, &QWindow::windowStateChanged, this,
-            [window](Qt::WindowState state) { SetLimits(*window, state != Qt::WindowMaximized); });
+} // namespace
+
+bool FixedSizeGuard::eventFilter(QObject* watched, QEvent* event) {
+    auto* window = watched->isWindowType() ? static_cast<QWindow*>(watched) : nullptr;
+    const QWidget* widget = window && window->handle() ? QWidget::find(window->winId()) : nullptr;
+    const bool isFixed = widget != nullptr && widget->minimumSize() == widget->maximumSize();
+    return isFixed && Guard(*window, widget->minimumSize(), *event);
 }
 
 } // namespace ksm

@@ -1,15 +1,14 @@
-// Windows of fixed size on desktops that maximise them.
+// Windows of fixed size on desktops that size windows as they like.
 #pragma once
 
 #include <QObject>
 
-class QWindow;
-
 namespace ksm {
 
-/// Under Wayland every title bar has a button that maximises, and a desktop may end a program whose
-/// window does not fill the size that it is then given. With this a window fills it, and returns to
-/// its own size at once, as it does from a full screen. To be installed on the application.
+/// Under Wayland every title bar has a button that maximises, edges can be dragged, and a desktop
+/// may end a program whose window does not fill the size that maximising gives it. With this a
+/// window fills that size, and returns to its own at once, as it does from a full screen; dragging
+/// its edges changes nothing. To be installed on the application.
 class FixedSizeGuard : public QObject {
     Q_OBJECT
 
@@ -18,9 +17,6 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    void Watch(QWindow* window);
 };
 
 } // namespace ksm

@@ -4,9 +4,11 @@
 #include "controls/choice_box.h"
 #include "controls/framed_bar.h"
 #include "controls/input.h"
+#include "controls/message_label.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QDialog>
 #include <QLineEdit>
 
 namespace ksm {
@@ -74,7 +76,10 @@ public:
     }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        return child->object() == box->view() ? 0 : child->object() == box->lineEdit() ? 1 : -1;
+        if (child->object() == box->view()) {
+            return 0;
+        }
+        return child->object() == box->lineEdit() ? 1 : -1;
     }
 
     QStringList actionNames() const override {
@@ -140,6 +145,39 @@ private:
     FramedBar* bar;
 };
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+
+/// Before Qt 6.8 nothing announces. A notification that comes into sight is read aloud, though, and
+/// this one is in sight for nobody else.
+class Notice : public QObject {
+public:
+    using QObject::QObject;
+
+    QString Text;
+};
+
+class AccessibleNotice : public QAccessibleObject {
+public:
+    explicit AccessibleNotice(Notice* shown) : QAccessibleObject(shown), notice(shown) {}
+
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override { return {}; }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? notice->Text : QString();
+    }
+    QAccessibleInterface* parent() const override {
+        return QAccessible::queryAccessibleInterface(notice->parent());
+    }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+private:
+    Notice* notice;
+};
+
+#endif
+
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
     if (auto* label = qobject_cast<CaptionLabel*>(object)) {
         return new AccessibleCaption(label);
@@ -150,6 +188,19 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
     if (auto* bar = qobject_cast<FramedBar*>(object)) {
         return new AccessibleBar(bar);
     }
+    if (auto* message = qobject_cast<MessageLabel*>(object)) {
+        return new QAccessibleWidget(message, QAccessible::StaticText);
+    }
+    // A window whose Enter and Escape are its own is no dialog of Qt's.
+    auto* window = qobject_cast<QWidget*>(object);
+    if (window && window->windowType() == Qt::Dialog && !qobject_cast<QDialog*>(window)) {
+        return new QAccessibleWidget(window, QAccessible::Dialog);
+    }
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    if (auto* notice = dynamic_cast<Notice*>(object)) {
+        return new AccessibleNotice(notice);
+    }
+#endif
     return nullptr;
 }
 
@@ -157,6 +208,40 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 
 void InstallAccessibleNames() {
     QAccessible::installFactory(MakeAccessible);
+}
+
+void AnnounceName(QWidget& renamed) {
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    QAccessibleEvent event(&renamed, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    // The event tells no name there, and a reader drops it.
+    if (renamed.hasFocus()) {
+        Announce(renamed, QAccessible::queryAccessibleInterface(&renamed)->text(QAccessible::Name));
+    }
+#endif
+}
+
+void Announce(QObject& source, const QString& text) {
+    if (!QAccessible::isActive()) {
+        return;
+    }
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    constexpr auto Name = "Notice";
+    auto* notice = static_cast<Notice*>(
+        source.findChild<QObject*>(QLatin1StringView(Name), Qt::FindDirectChildrenOnly));
+    if (!notice) {
+        notice = new Notice(&source);
+        notice->setObjectName(QLatin1StringView(Name));
+    }
+    notice->Text = text;
+    QAccessibleEvent said(notice, QAccessible::ObjectShow);
+#else
+    QAccessibleAnnouncementEvent said(&source, text);
+#endif
+    QAccessible::updateAccessibility(&said);
 }
 
 } // namespace ksm

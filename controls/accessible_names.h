@@ -1,11 +1,21 @@
 // What assistive technology hears of the controls.
 #pragma once
 
+class QObject;
+class QString;
+class QWidget;
+
 namespace ksm {
 
 /// Lets a label with a heading announce it with its caption ("Influence, Player 3: 7"), a drop-down
-/// list its heading and its choice, and a bar the count that it stands for. Nothing is made until
-/// assistive technology asks.
+/// list its heading and its choice, and a bar the count that it stands for. Windows and messages
+/// are known as such. Nothing is made until assistive technology asks.
 void InstallAccessibleNames();
+
+/// Tells that the name of a control is another; that of the one with the focus is said at once.
+void AnnounceName(QWidget& renamed);
+
+/// Has a screen reader say at once what came of something. `source` is where it happened.
+void Announce(QObject& source, const QString& text);
 
 } // namespace ksm

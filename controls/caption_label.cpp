@@ -1,11 +1,11 @@
 #include "controls/caption_label.h"
 
+#include "controls/accessible_names.h"
 #include "controls/fitting_font.h"
 #include "controls/input.h"
 #include "controls/plain_tool_tip.h"
 #include "controls/qt_values.h"
 
-#include <QAccessible>
 #include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QPainter>
@@ -27,7 +27,7 @@ void CaptionLabel::SetCaption(const QString& text) {
     caption = text;
     fittedWidth = -1;
     update();
-    AnnounceName();
+    AnnounceName(*this);
 }
 
 void CaptionLabel::SetAlignment(Qt::Alignment edges) {
@@ -64,14 +64,7 @@ void CaptionLabel::SetTextColour(const QColor& text) {
 void CaptionLabel::SetHeading(const QString& text) {
     if (text != heading) {
         heading = text;
-        AnnounceName();
-    }
-}
-
-void CaptionLabel::AnnounceName() {
-    if (QAccessible::isActive()) {
-        QAccessibleEvent renamed(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&renamed);
+        AnnounceName(*this);
     }
 }
 

@@ -68,7 +68,6 @@ private:
     void Fit() const;
     void PaintFocus(QPainter& painter) const;
     QPointF BaseLineStart(const QFontMetricsF& metrics) const;
-    void AnnounceName();
 
     QString caption;
     QString heading;

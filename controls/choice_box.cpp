@@ -43,7 +43,11 @@ void ChoiceBox::ShowChoice(int index) {
 
 void ChoiceBox::RestoreChoice(int index) {
     setCurrentIndex(index);
-    setEditText(index >= 0 ? itemText(index) : emptyCaption);
+    const QString& text = index >= 0 ? itemText(index) : emptyCaption;
+    // A screen reader is told of every text that is set, also of the same one.
+    if (lineEdit()->text() != text) {
+        setEditText(text);
+    }
     lineEdit()->setCursorPosition(0);
 }
 

@@ -55,11 +55,6 @@ const QString& Arial() {
     return family;
 }
 
-const QString& Narrow() {
-    static const QString family = Installed({"Arial Narrow", "Liberation Sans Narrow"});
-    return family;
-}
-
 const QString& Comic() {
     static const QString family = Installed({"Comic Sans MS", "Comic Neue"});
     return family;
@@ -106,7 +101,11 @@ QFont ArialFont(QFont::Weight weight) {
 }
 
 QFont NarrowFont(int pixels) {
-    return Font(Narrow(), pixels, QFont::Normal);
+    // The same on every system, whether a condensed family is installed or not, and as high.
+    constexpr int Condensed = 82;
+    QFont font = PlainFont(pixels);
+    font.setStretch(Condensed);
+    return font;
 }
 
 QFont ComicFont(int pixels) {

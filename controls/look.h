@@ -24,7 +24,7 @@ QFont PlainFont(int pixels = SmallText);
 QFont BoldFont(int pixels = SmallText);
 /// The face of the planets.
 QFont ArialFont(QFont::Weight weight = QFont::Normal);
-/// A condensed face, for texts that are wider than their place.
+/// The same face condensed, for texts that are wider than their place.
 QFont NarrowFont(int pixels = SmallText);
 /// The handwritten face of the dice roller.
 QFont ComicFont(int pixels);

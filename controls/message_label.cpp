@@ -1,10 +1,12 @@
 #include "controls/message_label.h"
 
+#include "controls/accessible_names.h"
 #include "controls/fitting_font.h"
 #include "controls/plain_tool_tip.h"
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QRegularExpression>
 
 namespace ksm {
 
@@ -13,16 +15,14 @@ namespace {
 // What is still read from across the table, and what is better than nothing.
 constexpr int SmallestReadable = 9;
 constexpr int SmallestText = 7;
+constexpr int LongWord = 16;
+constexpr int LongestOfNoName = 9; // "eachother" is the longest in a message with names
 constexpr int Wrap = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
-/// The text with names of more letters than that ended by an ellipsis.
-QString WithShortNames(QString text, const QStringList& names, qsizetype letters) {
-    for (const QString& name : names) {
-        if (name.size() > letters) {
-            text.replace(name, name.left(letters - 1).trimmed() + QChar(0x2026));
-        }
-    }
-    return text;
+/// The text with an ellipsis in words of more letters than that.
+QString WithShortWords(QString text, int letters) {
+    const QRegularExpression longWord(QString(R"((\S{%1})\S{2,})").arg(letters - 1));
+    return text.replace(longWord, QString("\\1") + QChar(0x2026));
 }
 
 } // namespace
@@ -33,53 +33,42 @@ MessageLabel::MessageLabel(const QString& objectName, const QRect& place, QWidge
     setGeometry(place);
 }
 
-void MessageLabel::SetCaption(const QString& text, const QStringList& names) {
+void MessageLabel::SetCaption(const QString& text) {
     if (text != caption) {
         caption = text;
         setAccessibleName(caption.simplified());
-        Fit(names);
+        Announce(*this, accessibleName());
+        Fit();
         update();
     }
 }
 
-void MessageLabel::Fit(const QStringList& names) {
-    // The painter knows LF only.
-    const QString lines = QString(caption).remove('\r');
-    for (const qsizetype letters : {caption.size(), qsizetype{20}, qsizetype{12}, qsizetype{8}}) {
-        if (TakeIfItFits(WithShortNames(lines, names, letters), SmallestReadable)) {
-            return;
-        }
+void MessageLabel::Fit() {
+    // The painter knows LF only. What lies behind that many letters has no room in any label.
+    constexpr qsizetype MostLetters = 400;
+    const QString lines = QString(caption).remove('\r').left(MostLetters);
+    if (!TakeIfItFits(lines, SmallestReadable) &&
+        !TakeIfItFits(WithShortWords(lines, LongWord), SmallestReadable)) {
+        TakeIfItFits(WithShortWords(lines, LongestOfNoName), SmallestText);
     }
-    // No label has room for more letters.
-    constexpr qsizetype MostLetters = 200;
-    TakeIfItFits(lines.left(MostLetters), SmallestText);
 }
 
 bool MessageLabel::TakeIfItFits(const QString& lines, int smallest) {
-    constexpr qsizetype MostLetters = 400; // more never fit
-    if (lines.size() > MostLetters) {
-        return false;
-    }
+    bool fits = false;
     shownText = lines;
     shownFont = FittingFont(font(), smallest, [&](const QFont& tried) {
-        isWhole = Fits(lines, tried);
-        return isWhole;
+        const QRect needed = QFontMetrics(tried).boundingRect(rect(), Wrap, lines);
+        fits = needed.width() <= width() && needed.height() <= height();
+        return fits;
     });
-    return isWhole;
-}
-
-bool MessageLabel::Fits(const QString& lines, const QFont& tried) const {
-    const QRect needed = QFontMetrics(tried).boundingRect(rect(), Wrap, lines);
-    return needed.width() <= width() && needed.height() <= height();
+    return fits;
 }
 
 void MessageLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(shownFont);
     painter.setPen(palette().color(QPalette::WindowText));
-    // A word that is longer than a line is broken where the line ends.
-    const int flags = isWhole ? Wrap : Wrap | Qt::TextWrapAnywhere;
-    painter.drawText(rect(), flags, shownText);
+    painter.drawText(rect(), Wrap, shownText);
 }
 
 bool MessageLabel::event(QEvent* event) {

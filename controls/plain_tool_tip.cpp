@@ -5,7 +5,7 @@
 
 namespace ksm {
 
-QString PlainText(const QString& text) {
+QString TextAsHtml(const QString& text) {
     constexpr qsizetype LongestUnbroken = 60;
     QStringList lines;
     for (const QString& line : text.split('\n')) {
@@ -17,7 +17,7 @@ QString PlainText(const QString& text) {
 }
 
 void ShowPlainToolTip(const QHelpEvent& request, const QString& text, QWidget* control) {
-    QToolTip::showText(request.globalPos(), PlainText(text), control);
+    QToolTip::showText(request.globalPos(), TextAsHtml(text), control);
 }
 
 } // namespace ksm

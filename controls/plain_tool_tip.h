@@ -8,9 +8,9 @@ class QWidget;
 
 namespace ksm {
 
-/// The text for a tooltip or message box that would take a name with angle brackets for markup.
-/// Long lines break at blanks, short ones do not.
-QString PlainText(const QString& text);
+/// HTML that shows the text as it stands. A tooltip would take a name with angle brackets for
+/// markup. Long lines break at blanks, short ones do not.
+QString TextAsHtml(const QString& text);
 
 /// Answers a request for the tooltip of `control`; an empty text hides the one that is shown.
 void ShowPlainToolTip(const QHelpEvent& request, const QString& text, QWidget* control);

@@ -55,7 +55,7 @@ void GameFileForm::BuildControls() {
     for (const QString& name : GameFiles()) {
         auto* item = new QListWidgetItem(name, File1);
         item->setSizeHint(ListRow);
-        item->setToolTip(PlainText(name));
+        item->setToolTip(TextAsHtml(name));
     }
 
     auto* label = new CaptionLabel("Label1", look.Label, this);

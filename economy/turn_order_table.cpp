@@ -62,6 +62,8 @@ TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
                   .PRes = cell("PRes", 88, 25),
                   .PInf = cell("PInf", 128, 25)};
     row.PolPlay->SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Who moves next is read from across the table: rather an ellipsis than small letters.
+    row.PolPlay->SetSmallestText(SmallText);
     row.PRes->setFont(PlainFont(FigureText));
     row.PInf->setFont(PlainFont(FigureText));
     row.PolPlay->SetHeading(tr("Place %1").arg(number));

@@ -1,11 +1,13 @@
 # shellcheck shell=bash
-# A private virtual display with a window manager, and pictures of what it shows. Sourced, not run.
+# A private virtual display with a window manager, and pictures of what it shows. Sourced after
+# setup.sh, not run.
 
 Scratch=
 
 # StartDisplay: opens the display and exports DISPLAY. All that runs on it ends with the script,
 # however that ends.
 StartDisplay() {
+    type -P Xvfb openbox xdotool import >/dev/null || ExplainMissing
     trap StopDisplay EXIT
     trap 'exit 129' HUP
     trap 'exit 130' INT
@@ -80,13 +82,13 @@ TakePicture() {
     SettledPicture=
     Await "$ProgramProcess" IsSettled || Fail "The window \"$1\" is not painted."
     mkdir -p "$(dirname "$2")"
-    convert "$Scratch/window.png" -strip "$2"
+    cp "$Scratch/window.png" "$2"
 }
 
 # A window is painted when two pictures, one after the other, are the same and not of one colour.
 IsSettled() {
     local before=$SettledPicture colours
-    import -silent -frame -window "$Window" "$Scratch/window.png" 2>/dev/null || return 1
+    import -silent -strip -frame -window "$Window" "$Scratch/window.png" 2>/dev/null || return 1
     read -r colours SettledPicture < <(identify -format '%k %#\n' "$Scratch/window.png")
     ((colours > 2)) && [[ $SettledPicture == "$before" ]]
 }

@@ -6,6 +6,7 @@
 #include "controls/look.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -64,9 +65,8 @@ protected:
         auto* box = qobject_cast<QMessageBox*>(watched);
         if (box && event->type() == QEvent::Show && !box->property("Read").toBool()) {
             box->setProperty("Read", true);
-            const bool plain = box->textFormat() == Qt::PlainText;
-            Said << box->windowTitle() << (plain ? box->text() : AsRead(box->text()))
-                 << AsRead(box->informativeText());
+            Said << box->windowTitle() << Read(*box, "qt_msgbox_label")
+                 << Read(*box, "qt_msgbox_informativelabel");
             EXPECT_TRUE(expected) << "an unexpected message box: " << Said.join('|').toStdString();
             const auto close = [this, box] {
                 Seen = Picture(*box);
@@ -78,6 +78,13 @@ protected:
     }
 
 private:
+    /// What a label of the box shows.
+    static QString Read(const QMessageBox& box, const char* name) {
+        const auto* label = box.findChild<QLabel*>(QLatin1StringView(name));
+        const QString text = label ? label->text() : QString();
+        return label && label->textFormat() == Qt::PlainText ? text : AsRead(text);
+    }
+
     bool expected;
 };
 

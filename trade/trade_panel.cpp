@@ -109,11 +109,7 @@ void TradePanel::ShowPlayer(int player) {
 }
 
 void TradePanel::ShowInfo() {
-    QStringList names;
-    for (int player = 1; player <= MaxPlayers; ++player) {
-        names << QString::fromStdString(game.Player(player).Name);
-    }
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo), names);
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
 }
 
 // A line covers those drawn before it: what follows the first that differs is painted anew.

@@ -25,10 +25,17 @@ def check_figure(game, heading, expected):
     check(game.figure(heading) == expected, f"{heading}: {expected}", game.figure(heading))
 
 
+def check_said(game, expected):
+    check(until(lambda: expected in game.said, 3), f"said: {expected}", game.said)
+    game.said.clear()
+
+
 def check_names(game, title):
     window = game.window(title)
     if not check(window is not None, f'the window "{title}" is open'):
         return
+    check(window.getRole() in (pyatspi.ROLE_FRAME, pyatspi.ROLE_DIALOG), f"{title}: it is a window",
+          window.getRoleName())
     named = [control for control in game.controls(window)
              if control.getRole() in ROLES_WITH_NAMES or has(control, pyatspi.STATE_FOCUSABLE)]
     nameless = [control.getRoleName() for control in named if not control.name.strip()]
@@ -133,7 +140,7 @@ def name_a_player(game):
 
 
 def tick_a_box(game):
-    """Through its action, as a screen reader's user does; the figure must be announced."""
+    """Through its action, as a screen reader's user does."""
     box = game.find("Enviro Comp., Player 3")
     before = int(game.figure("Influence, Player 3"))
     docks = int(game.figure("Space Docks, Player 3"))
@@ -144,7 +151,7 @@ def tick_a_box(game):
     actions.doAction(names.index("Toggle"))
     check_figure(game, "Influence, Player 3", str(before + step))
     check(f"Influence, Player 3: {before + step}" in game.renamed,
-          "the new influence is announced", game.renamed)
+          "a reader that looks for it is told of the new influence", game.renamed)
 
 
 def build_a_dock(game):
@@ -162,10 +169,8 @@ def give_a_planet(game):
     planets = int(game.figure("Planets, Player 2"))
     pool = game.figure("Planet, row 2")
     game.tab_to("Planet, row 1")
-    game.renamed.clear()
     game.press("Return", "Down")
-    check(f"Planet, row 1, over Ada: {planet}" in game.renamed,
-          "the owner under the planet is announced", game.renamed)
+    check_said(game, f"Planet, row 1, over Ada: {planet}")
     game.press("Escape")
     check_figure(game, "Planets, Player 2", str(planets))
     check_figure(game, "Planet, row 1", planet)
@@ -187,8 +192,10 @@ def agree(game):
     check(game.find("There are no Trade Agreements in play.") is not None, "no agreement yet")
     game.tab_to("Add")
     game.press("Return")
+    check_said(game, "Select first player...")
     game.tab_to("Trade, Player 1")
     game.press("Return", "Right", "space")
+    check_said(game, "Ada and make a TA")  # with a player who has no name
     check(until(lambda: game.find("There is one Trade Agreement in play."), 3) is not None,
           "one agreement is in play")
     for player, before in zip((1, 2), credits):
@@ -205,7 +212,8 @@ def pass_a_law(game):
     law = next(item for menu in game.window("Korvane Astrell Manager II")
                for top in menu if top.name == "Trade"
                for popup in top for item in popup if item.name == "Free Trade")
-    check(has(law, pyatspi.STATE_CHECKED), "the law is heard as passed")
+    check(has(law, pyatspi.STATE_CHECKED), "the law is marked as passed")
+    check_said(game, "FREE TRADE!")
 
 
 def figures(game):

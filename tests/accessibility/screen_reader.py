@@ -47,7 +47,10 @@ class Program:
     def __init__(self, command):
         self.focused = None  # the control that last said that it has the keyboard
         self.renamed = []  # names of controls in the order in which they changed
+        self.said = []  # what a screen reader says at once, wherever the keyboard is
         pyatspi.Registry.registerEventListener(self._on_focus, "object:state-changed:focused")
+        pyatspi.Registry.registerEventListener(self._on_showing, "object:state-changed:showing")
+        pyatspi.Registry.registerEventListener(self._on_announcement, "object:announcement")
         pyatspi.Registry.registerEventListener(self._on_name,
                                                "object:property-change:accessible-name")
         self.process = subprocess.Popen(command)
@@ -66,6 +69,16 @@ class Program:
 
     def _on_name(self, event):
         self.renamed.append(event.source.name)
+        # A name that comes with the event is said of the control that has the keyboard.
+        if event.source == self.focused and event.any_data == event.source.name:
+            self.said.append(event.any_data)
+
+    def _on_showing(self, event):
+        if event.detail1 and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            self.said.append(event.source.name)
+
+    def _on_announcement(self, event):
+        self.said.append(event.any_data)
 
     def controls(self, root=None):
         """All that is shown, windows first."""

@@ -78,7 +78,7 @@ TEST_F(GameFile, RemovesOnlyWhatDeadProcessesLeft) {
     for (const QString& name :
          dead + QStringList{begin + "1-old.tmp", begin + "x.tmp", begin + "999999999-1.tmp",
                             ".ksm-elsewhere-999999999.tmp"}) {
-        QFile(name).open(QIODevice::WriteOnly);
+        EXPECT_TRUE(QFile(name).open(QIODevice::WriteOnly));
     }
     ASSERT_TRUE(SaveGameFile("a.ksm", SampleGame()));
     EXPECT_FALSE(QFileInfo::exists(dead[0]) || QFileInfo::exists(dead[1]));

@@ -10,8 +10,7 @@ namespace ksm {
 /// The game that was saved by the first version.
 inline GameState SampleGame() {
     QFile file(FIRST_SAVED_GAME);
-    file.open(QIODevice::ReadOnly);
-    return *ReadGame(file.readAll());
+    return file.open(QIODevice::ReadOnly) ? *ReadGame(file.readAll()) : GameState();
 }
 
 } // namespace ksm

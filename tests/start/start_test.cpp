@@ -2,6 +2,7 @@
 
 #include "app/display_choice.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLockFile>
 #include <QProcess>
@@ -17,7 +18,7 @@ class Start : public testing::Test {
 protected:
     Start() {
         std::filesystem::create_hard_link(PROGRAM_WITH_HAND, Path("ksm").toStdString());
-        environment.insert("XDG_RUNTIME_DIR", folder.path());
+        environment.insert("XDG_RUNTIME_DIR", QDir(folder.path()).absolutePath());
     }
 
     QString Path(const char* name) const { return folder.filePath(QLatin1StringView(name)); }
@@ -59,11 +60,15 @@ TEST_F(Start, RefusesAListThatCannotBeUsed) {
     EXPECT_NE(Said(1).find("999"), std::string::npos);
 }
 
-TEST_F(Start, SaysThatThereIsNoDisplay) {
-    environment.insert("QT_QPA_PLATFORM", "xcb");
+TEST_F(Start, SaysNoMoreThanThatThereIsNoDisplay) {
+    environment.insert("LC_ALL", "C");
     environment.insert("DISPLAY", ":none");
-    EXPECT_EQ(Said(1), "ksm: There is no display that the window can be shown on; start the "
-                       "program on a desktop.\n");
+    environment.insert("WAYLAND_DISPLAY", "none");
+    for (const char* platform : {"xcb", "wayland", "none"}) {
+        environment.insert("QT_QPA_PLATFORM", platform);
+        EXPECT_EQ(Said(1), "ksm: There is no display that the window can be shown on; start the "
+                           "program on a desktop.\n");
+    }
 }
 
 TEST(ChooseDisplay, PrefersX11WhereADesktopOffersBoth) {
