@@ -19,8 +19,9 @@ namespace {
 QString Shown(const QMenu* menu, const std::string& step) {
     constexpr int LongestStep = 300;
     const QFontMetrics metrics(menu->font());
-    QString text = metrics.elidedText(QString::fromStdString(step), Qt::ElideRight, LongestStep);
-    // A name may hold the sign for an underlined letter.
+    // A name may hold what a menu takes for the sign of a key.
+    const QString line = QString::fromStdString(step).simplified();
+    QString text = metrics.elidedText(line, Qt::ElideRight, LongestStep);
     return text.replace('&', "&&");
 }
 

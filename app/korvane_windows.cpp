@@ -23,8 +23,8 @@ namespace ksm {
 
 namespace {
 
-// In the order in which they close with the main window. Other windows are modal, so they are
-// closed before it.
+// In the order in which they close with the main window. Nobody can close it before the name dialog
+// and the cost modifiers are closed.
 constexpr std::array ChildWindows{"DiceForm", "TechForm", "TechForm2", "AboutForm",
                                   "SaveForm", "LoadForm", "NoteForm"};
 

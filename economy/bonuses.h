@@ -18,9 +18,6 @@ inline int EnviroCompBonus(const Game& game, int player) {
 }
 /// Credits: three for each of the partners who are in the game. `partners` are the player's.
 int MicroTechBonus(const Game& game, int player, PartnerSet partners);
-inline int MicroTechBonus(const Game& game, int player) {
-    return MicroTechBonus(game, player, TradePartners(game, player));
-}
 
 // Races.
 

@@ -5,24 +5,29 @@
 #include "controls/look.h"
 #include "economy/explanation.h"
 
+#include <algorithm>
+
 namespace ksm {
+
+struct TurnOrderColumn {
+    const char* Name = "";
+    int Left = 0;
+    int Width = 0;
+    Qt::Alignment Alignment;
+    const char* Meaning = "";
+    // Of the heading, which stands over the middle of figures.
+    const char* Heading = "";
+    QRect Place;
+};
 
 namespace {
 
 constexpr QRect Panel{0, 0, 160, 180};
-constexpr int RowHeight = 17;
 
-struct Heading {
-    const char* Caption = "";
-    QRect Place;
-    Qt::Alignment Alignment;
-};
-
-// "Res" and "Inf" stand over the middle of their columns.
-constexpr std::array<Heading, 3> Headings{{
-    {"Player", {16, 1, 64, 15}, Qt::AlignLeft},
-    {"Res", {80, 1, 41, 15}, Qt::AlignHCenter},
-    {"Inf", {121, 1, 39, 15}, Qt::AlignHCenter},
+constexpr std::array<TurnOrderColumn, 3> Columns{{
+    {"PolPlay", 16, 65, Qt::AlignLeft, "Place %1", "Player", {16, 1, 64, 15}},
+    {"PRes", 88, 25, Qt::AlignHCenter, "Resources, place %1", "Res", {80, 1, 41, 15}},
+    {"PInf", 128, 25, Qt::AlignHCenter, "Influence, place %1", "Inf", {121, 1, 39, 15}},
 }};
 
 void SetItalic(CaptionLabel& label, bool italic) {
@@ -39,43 +44,33 @@ TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(par
     setObjectName("UpLefPic");
     setAccessibleName("Order of play");
     setGeometry(Panel);
-    for (const Heading& heading : Headings) {
-        auto* label = new CaptionLabel(QString(), heading.Place, this);
+    for (const TurnOrderColumn& column : Columns) {
+        auto* label = new CaptionLabel(QString(), column.Place, this);
         label->setFont(BoldFont());
-        label->SetAlignment(heading.Alignment | Qt::AlignVCenter);
-        label->SetCaption(heading.Caption);
+        label->SetAlignment(column.Alignment | Qt::AlignVCenter);
+        label->SetCaption(column.Heading);
     }
     for (int number = 1; number <= MaxPlayers; ++number) {
-        rows[number] = MakeRow(number);
+        std::ranges::transform(Columns, rows[number].begin(), [&](const TurnOrderColumn& column) {
+            return MakeCell(column, number);
+        });
     }
 }
 
-TurnOrderTable::Row TurnOrderTable::MakeRow(int number) {
-    const int top = 17 + 16 * (number - 1);
-    const auto cell = [&](const char* name, int left, int width) {
-        auto* label =
-            new CaptionLabel(ElementName(name, number), {left, top, width, RowHeight}, this);
-        label->SetAlignment(Qt::AlignCenter);
-        return label;
-    };
-    const Row row{.PolPlay = cell("PolPlay", 16, 65),
-                  .PRes = cell("PRes", 88, 25),
-                  .PInf = cell("PInf", 128, 25)};
-    row.PolPlay->SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // Who moves next is read from across the table: rather an ellipsis than small letters.
-    row.PolPlay->SetSmallestText(SmallText);
-    row.PRes->setFont(PlainFont(FigureText));
-    row.PInf->setFont(PlainFont(FigureText));
-    row.PolPlay->SetHeading(tr("Place %1").arg(number));
-    row.PRes->SetHeading(tr("Resources, place %1").arg(number));
-    row.PInf->SetHeading(tr("Influence, place %1").arg(number));
-    for (CaptionLabel* label : {row.PolPlay, row.PRes, row.PInf}) {
-        label->SetExplanation([this, number] { return RankText(game, number); });
+CaptionLabel* TurnOrderTable::MakeCell(const TurnOrderColumn& column, int number) {
+    const QRect place(column.Left, 17 + 16 * (number - 1), column.Width, 17);
+    auto* cell = new CaptionLabel(ElementName(column.Name, number), place, this);
+    cell->SetAlignment(column.Alignment | Qt::AlignVCenter);
+    cell->SetHeading(QString(column.Meaning).arg(number));
+    cell->SetExplanation([this, number] { return RankText(game, number); });
+    if (column.Alignment == Qt::AlignHCenter) {
+        cell->setFont(PlainFont(FigureText));
+        cell->SetSmallestText(8);
+    } else {
+        // Who moves next is read from across the table: rather an ellipsis than small letters.
+        cell->SetSmallestText(SmallText);
     }
-    for (CaptionLabel* figure : {row.PRes, row.PInf}) {
-        figure->SetSmallestText(8);
-    }
-    return row;
+    return cell;
 }
 
 void TurnOrderTable::ShowGame() {
@@ -83,18 +78,18 @@ void TurnOrderTable::ShowGame() {
     setEnabled(game.Started());
     for (int number = 1; number <= game.NumPlayers; ++number) {
         const TurnOrderRow& ranked = game.TurnOrderRows.at(static_cast<std::size_t>(number - 1));
-        const Row& row = rows[number];
-        row.PolPlay->SetCaption(QString::fromStdString(ranked.Name));
-        row.PRes->SetCaption(QString::number(ranked.Resources));
-        row.PInf->SetCaption(QString::number(ranked.Influence));
-        for (CaptionLabel* label : {row.PolPlay, row.PRes, row.PInf}) {
+        const auto& [PolPlay, PRes, PInf] = rows[number];
+        PolPlay->SetCaption(QString::fromStdString(ranked.Name));
+        PRes->SetCaption(QString::number(ranked.Resources));
+        PInf->SetCaption(QString::number(ranked.Influence));
+        for (CaptionLabel* label : rows[number]) {
             SetItalic(*label, ranked.Italic);
         }
     }
 }
 
 QWidgetList TurnOrderTable::PlayerControls(int row) const {
-    return {rows[row].PolPlay, rows[row].PRes, rows[row].PInf};
+    return {rows[row].begin(), rows[row].end()};
 }
 
 } // namespace ksm

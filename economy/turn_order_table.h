@@ -9,6 +9,7 @@
 namespace ksm {
 
 class CaptionLabel;
+struct TurnOrderColumn;
 
 /// Picture box `UpLefPic`. Row k shows the player ranked k-th, not player k.
 class TurnOrderTable : public QWidget {
@@ -23,16 +24,10 @@ public:
     QWidgetList PlayerControls(int row) const;
 
 private:
-    struct Row {
-        CaptionLabel* PolPlay = nullptr;
-        CaptionLabel* PRes = nullptr;
-        CaptionLabel* PInf = nullptr;
-    };
-
-    Row MakeRow(int number);
+    CaptionLabel* MakeCell(const TurnOrderColumn& column, int number);
 
     const Game& game;
-    PerPlayer<Row> rows;
+    PerPlayer<std::array<CaptionLabel*, 3>> rows; ///< name, resources and influence
 };
 
 } // namespace ksm

@@ -41,8 +41,7 @@ QColor TextColour(Specialty specialty) {
 
 BoardRow::BoardRow(int row, const Game& shown, QWidget* board) : game(shown), number(row + 1) {
     const int top = RowTop + RowPitch * row;
-    InvasionPlanet = new PlanetLabel(ElementName("InvasionPlanet", row), {NameLeft, top},
-                                     FigureLeft - NameLeft, board);
+    InvasionPlanet = new PlanetLabel(ElementName("InvasionPlanet", row), {NameLeft, top}, board);
     InvasionResInf = new CaptionLabel(ElementName("InvasionResInf", row),
                                       {FigureLeft, top, FigureRight - FigureLeft, RowPitch}, board);
     InvasionResInf->SetAlignment(Qt::AlignCenter);
@@ -58,14 +57,15 @@ BoardRow::BoardRow(int row, const Game& shown, QWidget* board) : game(shown), nu
 void BoardRow::Show(int slot) {
     tag = slot;
     InvasionPlanet->setProperty("Tag", QString::number(slot));
+    QString name;
     if (slot == NoPlanet) {
-        InvasionPlanet->SetPlanet({});
         ShowFigures({}, Specialty::None);
-        return;
+    } else {
+        const PlanetRecord& planet = game.Planet(slot);
+        name = QString::fromStdString(planet.Name);
+        ShowFigures(QString("%1 %2").arg(planet.Resources).arg(planet.Influence), planet.Specialty);
     }
-    const PlanetRecord& planet = game.Planet(slot);
-    InvasionPlanet->SetPlanet(QString::fromStdString(planet.Name));
-    ShowFigures(QString("%1 %2").arg(planet.Resources).arg(planet.Influence), planet.Specialty);
+    InvasionPlanet->SetPlanet(name, InvasionResInf->x() - NameLeft);
 }
 
 bool BoardRow::Holds(const QWidget* control) const {
@@ -82,7 +82,7 @@ void BoardRow::ShowFigures(const QString& figures, Specialty specialty) {
 
 void BoardRow::FitFigures() {
     constexpr int Room = FigureRight - FigureLeft;
-    // Figures are never cut: those of many digits reach over the end of a long name.
+    // Figures are never cut: those of many digits take their room from a long name.
     const QString figures = InvasionResInf->Caption();
     const QFont fitting = FittingFont(InvasionResInf->font(), SmallText - 2, figures, Room);
     const int place = std::max(Room, qCeil(QFontMetricsF(fitting).horizontalAdvance(figures)));

@@ -15,19 +15,20 @@ constexpr int RowHeight = 14;
 
 } // namespace
 
-PlanetLabel::PlanetLabel(const QString& objectName, QPoint place, int longest, QWidget* parent)
-    : CaptionLabel(objectName, {place, QSize(longest, RowHeight)}, parent), longestName(longest) {
+PlanetLabel::PlanetLabel(const QString& objectName, QPoint place, QWidget* parent)
+    : CaptionLabel(objectName, {place, QSize()}, parent) {
     setFocusPolicy(Qt::TabFocus);
 }
 
-void PlanetLabel::SetPlanet(const QString& name) {
-    if (name == Caption()) {
+void PlanetLabel::SetPlanet(const QString& name, int longest) {
+    if (name == Caption() && longest == longestName) {
         return;
     }
+    longestName = longest;
     SetCaption(name);
     // No letter is narrower than a pixel.
-    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(name.left(longestName)));
-    resize(width == 0 ? longestName : std::min(width, longestName), RowHeight);
+    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(name.left(longest)));
+    resize(width == 0 ? longest : std::min(width, longest), RowHeight);
 }
 
 void PlanetLabel::mousePressEvent(QMouseEvent* event) {

@@ -11,11 +11,11 @@ class PlanetLabel : public CaptionLabel {
     Q_OBJECT
 
 public:
+    PlanetLabel(const QString& objectName, QPoint place, QWidget* parent);
+
     /// The name takes its own width, up to `longest` pixels; an empty row takes all of it, so that
     /// it can be seen while it is dragged.
-    PlanetLabel(const QString& objectName, QPoint place, int longest, QWidget* parent);
-
-    void SetPlanet(const QString& name);
+    void SetPlanet(const QString& name, int longest);
 
     /// Does what Space or Return does.
     void Activate() override;
@@ -42,7 +42,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    int longestName;
+    int longestName = 0;
 };
 
 } // namespace ksm
