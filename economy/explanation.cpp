@@ -17,11 +17,11 @@ using Parts = std::vector<Part>;
 
 struct FigureDesign {
     const char* Caption = "";
-    int PlayerFigures::*Value = nullptr;
+    int PlayerFigures::* Value = nullptr;
     // Of the costs.
     Specialty Cheaper = Specialty::None;
-    std::uint8_t PlayerRecord::*Base = nullptr;
-    std::int16_t Game::*Modifier = nullptr;
+    std::uint8_t PlayerRecord::* Base = nullptr;
+    std::int16_t Game::* Modifier = nullptr;
 };
 
 // In the order of the enumeration.

@@ -12,7 +12,7 @@ namespace {
 
 struct Law {
     const char* Caption;
-    bool LawMarks::*InForce;
+    bool LawMarks::* InForce;
 };
 constexpr std::array<Law, 4> Laws{{{"Labour Union", &LawMarks::LabourUnion},
                                    {"Free Trade", &LawMarks::FreeTrade},

@@ -9,7 +9,7 @@ namespace ksm {
 
 struct Technology {
     const char* Caption = "";
-    bool PlayerRecord::*Owned = nullptr;
+    bool PlayerRecord::* Owned = nullptr;
     const char* Tip = ""; ///< what it brings, and when its box can be ticked
 };
 
