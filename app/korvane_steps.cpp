@@ -1,6 +1,7 @@
 // What was done is kept, and can be taken back.
 
 #include "app/korvane.h"
+#include "controls/accessible_names.h"
 #include "controls/spin_bar.h"
 #include "planets/board_listing.h"
 #include "saves/kept_game.h"
@@ -74,6 +75,7 @@ void Korvane::Undo() {
 
 void Korvane::TakeBack(int count) {
     for (; count > 0 && history.CanUndo(); --count) {
+        Announce(*this, "Undo " + QString::fromStdString(history.UndoText()));
         history.Undo(state);
     }
     Returned();
@@ -81,6 +83,7 @@ void Korvane::TakeBack(int count) {
 
 void Korvane::Redo() {
     if (history.CanRedo()) {
+        Announce(*this, "Redo " + QString::fromStdString(history.RedoText()));
         history.Redo(state);
         Returned();
     }

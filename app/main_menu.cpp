@@ -1,5 +1,7 @@
 #include "app/main_menu.h"
 
+#include "controls/accessible_names.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QShortcut>
@@ -22,7 +24,7 @@ struct ItemDesign {
     const char* Caption = "";
     const char* Shortcut = "";
     ItemKind Kind = ItemKind::Item;
-    bool LawMarks::*Law = nullptr; ///< whose check mark it has
+    bool LawMarks::* Law = nullptr; ///< whose check mark it has
 };
 
 /// A menu, or an item on the bar where nothing is in it.
@@ -98,6 +100,7 @@ MainMenu::MainMenu(const Game& shown, QWidget* parent) : QMenuBar(parent), game(
             QAction* made = MakeItem(menu, item);
             if (item.Law) {
                 laws.append({made, item.Law});
+                AnnounceCheckMark(*made, *this);
             }
         }
     }

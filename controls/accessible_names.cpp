@@ -8,6 +8,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QAction>
 #include <QDialog>
 #include <QLineEdit>
 
@@ -242,6 +243,18 @@ void Announce(QObject& source, const QString& text) {
     QAccessibleAnnouncementEvent said(&source, text);
 #endif
     QAccessible::updateAccessibility(&said);
+}
+
+void AnnounceCheckMark(const QAction& item, QWidget& menuBar) {
+    const auto say = [&item, &menuBar] {
+        const QString mark = item.isChecked() ? ": checked" : ": not checked";
+        Announce(menuBar, item.text() + mark);
+    };
+    QObject::connect(&item, &QAction::toggled, &menuBar, say);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    // A reader is told of no mark there.
+    QObject::connect(&item, &QAction::hovered, &menuBar, say);
+#endif
 }
 
 } // namespace ksm

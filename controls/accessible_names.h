@@ -1,6 +1,7 @@
 // What assistive technology hears of the controls.
 #pragma once
 
+class QAction;
 class QObject;
 class QString;
 class QWidget;
@@ -17,5 +18,8 @@ void AnnounceName(QWidget& renamed);
 
 /// Has a screen reader say at once what came of something. `source` is where it happened.
 void Announce(QObject& source, const QString& text);
+
+/// Has the check mark of a menu item said when it changes, and when the item is looked at.
+void AnnounceCheckMark(const QAction& item, QWidget& menuBar);
 
 } // namespace ksm

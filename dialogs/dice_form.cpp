@@ -1,5 +1,6 @@
 #include "dialogs/dice_form.h"
 
+#include "controls/accessible_names.h"
 #include "controls/caption_label.h"
 #include "controls/element_name.h"
 #include "controls/look.h"
@@ -88,9 +89,13 @@ void DiceForm::Command1_Click() {
     std::mt19937 generator(newSeed());
     std::uniform_real_distribution<double> distribution;
     const DicePlaces rolled = RollDice(dice, [&] { return distribution(generator); });
+    QStringList said;
     for (std::size_t i = 0; i < rolled.size(); ++i) {
         Label1[i]->SetCaption(rolled[i] == 0 ? QString() : QString::number(rolled[i]));
+        said << Label1[i]->Caption();
     }
+    said.removeAll(QString());
+    Announce(*this, said.join(", "));
 }
 
 } // namespace ksm

@@ -279,6 +279,7 @@ def roll_dice(game):
     game.press("space")
     dice = [game.figure(f"Dice place {place}") for place in range(1, 8)]
     check(sum(die is not None for die in dice) == 3, "three dice are rolled", dice)
+    check_said(game, ", ".join(die for die in dice if die))
     game.press("alt+F4")
 
 
