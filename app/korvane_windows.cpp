@@ -7,12 +7,12 @@
 #include "dialogs/about_form.h"
 #include "dialogs/color_select_form.h"
 #include "dialogs/dice_form.h"
-#include "dialogs/load_form.h"
+#include "dialogs/game_file_form.h"
 #include "dialogs/note_form.h"
-#include "dialogs/save_form.h"
 #include "dialogs/tech_form.h"
 #include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
+#include "saves/game_file.h"
 #include "saves/kept_files.h"
 #include "saves/kept_game.h"
 
@@ -52,8 +52,8 @@ Form* OpenModal(QWidget* owner, Arguments&... arguments) {
 } // namespace
 
 void Korvane::LGame_Click() {
-    auto* form = OpenModal<LoadForm>(this);
-    connect(form, &LoadForm::GameLoaded, this, &Korvane::LoadForm_GameLoaded);
+    const auto load = [this](const QString& name) { return LoadGame(name); };
+    OpenModal<GameFileForm>(this, LoadDesign, load);
 }
 
 void Korvane::SGame_Click() {
@@ -62,7 +62,8 @@ void Korvane::SGame_Click() {
                     QString("The running game is not kept in \"%1\".").arg(KeptGameName),
                     QString::fromStdString(kept->LastOutcome().Reason()), this);
     }
-    OpenModal<SaveForm>(this, state);
+    const auto save = [this](const QString& name) { return SaveGameFile(name, state); };
+    OpenModal<GameFileForm>(this, SaveDesign, save);
 }
 
 void Korvane::Notes_Click() {

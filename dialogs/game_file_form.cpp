@@ -37,9 +37,10 @@ QStringList GameFiles() {
 
 } // namespace
 
-GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
+GameFileForm::GameFileForm(const GameFileDesign& design, FileUse use, QWidget* owner)
     : FixedDialog(design.FormName, design.Title, Client, owner), look(design),
-      File1(new QListWidget(this)), FileNam(new QLineEdit(DefaultName, this)) {
+      useFile(std::move(use)), File1(new QListWidget(this)),
+      FileNam(new QLineEdit(DefaultName, this)) {
     setModal(true);
     BuildControls();
     PlaceFromOwner(FromOwner);
@@ -91,7 +92,7 @@ void GameFileForm::Confirm() {
     if (!FileNam->text().endsWith(Extension)) {
         FileNam->setText(FileNam->text() + Extension);
     }
-    if (const Outcome<> used = UseFile(FileNam->text()); used) {
+    if (const Outcome<> used = useFile(FileNam->text()); used) {
         accept();
     } else {
         ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText,
