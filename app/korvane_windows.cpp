@@ -76,11 +76,11 @@ void Korvane::Dice_Click() {
 }
 
 void Korvane::Stech_Click() {
-    OpenModal<TechForm>(this);
+    OpenModal<TechForm>(this, "TechForm", StandardChart());
 }
 
 void Korvane::HTech_Click() {
-    OpenModal<TechForm2>(this);
+    OpenModal<TechForm>(this, "TechForm2", ExpansionChart());
 }
 
 void Korvane::About_Click() {
