@@ -1,6 +1,7 @@
 #include "controls/caption_label.h"
 
 #include "controls/accessible_names.h"
+#include "controls/element_name.h"
 #include "controls/fitting_font.h"
 #include "controls/input.h"
 #include "controls/plain_tool_tip.h"
@@ -16,8 +17,7 @@ namespace ksm {
 
 CaptionLabel::CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent)
     : QWidget(parent) {
-    setObjectName(objectName);
-    setGeometry(place);
+    NameAndPlace(*this, objectName, place);
 }
 
 void CaptionLabel::SetCaption(const QString& text) {

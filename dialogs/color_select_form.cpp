@@ -76,8 +76,7 @@ ColorSelectForm::ColorSelectForm(GameState& game, QWidget* owner)
     MakeEntries();
     MakeSwatches();
     auto* ok = new QPushButton("OK", this);
-    ok->setObjectName("ColorOK");
-    ok->setGeometry(TwipsRect(360, 1920, 855, 375));
+    NameAndPlace(*ok, "ColorOK", TwipsRect(360, 1920, 855, 375));
     connect(ok, &QPushButton::clicked, this, &ColorSelectForm::ColorOK_Click);
 }
 
@@ -92,9 +91,7 @@ void ColorSelectForm::MakeEntries() {
 
 QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, const QRect& place) {
     auto* entry = new QLineEdit(this);
-    entry->setObjectName(name);
-    entry->setAccessibleName(meaning);
-    entry->setGeometry(place);
+    NameAndPlace(*entry, name, place, meaning);
     entry->setMaxLength(std::numeric_limits<int>::max());
     entry->setValidator(new OneLine(entry));
     return entry;
