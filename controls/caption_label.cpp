@@ -131,6 +131,9 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 }
 
 bool CaptionLabel::event(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        fittedWidth = -1;
+    }
     if (event->type() == QEvent::ToolTip) {
         Fit();
         QStringList lines{shownText == caption ? QString() : caption, Explanation()};
@@ -139,13 +142,6 @@ bool CaptionLabel::event(QEvent* event) {
         return true;
     }
     return QWidget::event(event);
-}
-
-void CaptionLabel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange) {
-        fittedWidth = -1;
-    }
-    QWidget::changeEvent(event);
 }
 
 void CaptionLabel::keyPressEvent(QKeyEvent* event) {

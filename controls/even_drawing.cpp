@@ -1,7 +1,6 @@
 #include "controls/even_drawing.h"
 
 #include <QPainter>
-#include <QtMath>
 
 #include <algorithm>
 
@@ -22,8 +21,7 @@ void DrawEvenLine(QPainter& painter, QPoint from, QPoint to, int width, const QC
     }
     const QTransform toDevice = painter.deviceTransform();
     const int thickness = std::max(1, qRound(width * toDevice.m11()));
-    const QRectF line =
-        QRectF(toDevice.map(from + middle), toDevice.map(to + middle)).normalized();
+    const QRectF line = QRectF(toDevice.map(from + middle), toDevice.map(to + middle)).normalized();
     const QPointF edge(thickness / 2.0, thickness / 2.0);
     // The size is rounded by itself, so that every line of a width is as thick.
     const QRect covered((line.topLeft() - edge).toPoint(),

@@ -54,8 +54,7 @@ QString Requirement(const TechBox& technology, const TechChart& chart) {
 
 QString AccessibleName(const TechBox& technology, const TechChart& chart) {
     return QString("%1, %2, %3")
-        .arg(ToQString(technology.Name),
-             LookOf(technology.Field).Name,
+        .arg(ToQString(technology.Name), LookOf(technology.Field).Name,
              Requirement(technology, chart));
 }
 
