@@ -22,8 +22,6 @@ struct TurnOrderColumn {
 
 namespace {
 
-constexpr QRect Panel{0, 0, 160, 180};
-
 constexpr std::array<TurnOrderColumn, 3> Columns{{
     {"PolPlay", 16, 65, Qt::AlignLeft, "Place %1", "Player", {16, 1, 64, 15}},
     {"PRes", 88, 25, Qt::AlignHCenter, "Resources, place %1", "Res", {80, 1, 41, 15}},
@@ -41,9 +39,7 @@ void SetItalic(CaptionLabel& label, bool italic) {
 } // namespace
 
 TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
-    setObjectName("UpLefPic");
-    setAccessibleName("Order of play");
-    setGeometry(Panel);
+    NameAndPlace(*this, "UpLefPic", {0, 0, 160, 180}, "Order of play");
     for (const TurnOrderColumn& column : Columns) {
         auto* label = new CaptionLabel(QString(), column.Place, this);
         label->setFont(BoldFont());

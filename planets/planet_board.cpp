@@ -18,15 +18,12 @@ namespace ksm {
 
 namespace {
 
-constexpr QRect Panel{163, 0, 172, 180};
 constexpr QSize OwnerSize{70, 14};
 
 } // namespace
 
 PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), state(game) {
-    setObjectName("InvasionPic");
-    setAccessibleName("Planet board");
-    setGeometry(Panel);
+    NameAndPlace(*this, "InvasionPic", {163, 0, 172, 180}, "Planet board");
     MakeOwners();
     MakeRows();
     new LineControl("InvasionLine", {70, 1, 1, 178}, this);

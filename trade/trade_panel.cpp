@@ -22,7 +22,6 @@ namespace ksm {
 
 namespace {
 
-constexpr QRect Panel{338, 0, 300, 180};
 constexpr QSize LabelSize{30, 18};
 // A line of any player's colour can be told from it, and black text reads well on it.
 constexpr QColor Background{0xB8, 0xC0, 0xCA};
@@ -30,9 +29,7 @@ constexpr QColor Background{0xB8, 0xC0, 0xCA};
 } // namespace
 
 TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
-    setObjectName("TradePic");
-    setAccessibleName("Trade");
-    setGeometry(Panel);
+    NameAndPlace(*this, "TradePic", {338, 0, 300, 180}, "Trade");
     QPalette painted = palette();
     painted.setColor(QPalette::Window, Background);
     setPalette(painted);
@@ -69,8 +66,7 @@ void TradePanel::MakeButtons() {
 
 QPushButton* TradePanel::MakeButton(const char* name, const char* caption, int top) {
     auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setGeometry(230, top, 65, 25);
+    NameAndPlace(*button, name, {230, top, 65, 25});
     return button;
 }
 
