@@ -75,9 +75,7 @@ Outcome<> Korvane::LoadGame(const QString& name) {
     return {};
 }
 
-void Korvane::Undo() {
-    TakeBack(1);
-}
+void Korvane::Undo() { TakeBack(1); }
 
 void Korvane::TakeBack(int count) {
     for (; count > 0 && history.CanUndo(); --count) {

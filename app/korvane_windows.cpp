@@ -72,21 +72,13 @@ void Korvane::Notes_Click() {
     connect(form, &NoteForm::Changed, this, &Korvane::Changed, Qt::UniqueConnection);
 }
 
-void Korvane::Dice_Click() {
-    Open<DiceForm>(this, menu);
-}
+void Korvane::Dice_Click() { Open<DiceForm>(this, menu); }
 
-void Korvane::Stech_Click() {
-    OpenModal<TechForm>(this, "TechForm", StandardChart());
-}
+void Korvane::Stech_Click() { OpenModal<TechForm>(this, "TechForm", StandardChart()); }
 
-void Korvane::HTech_Click() {
-    OpenModal<TechForm>(this, "TechForm2", ExpansionChart());
-}
+void Korvane::HTech_Click() { OpenModal<TechForm>(this, "TechForm2", ExpansionChart()); }
 
-void Korvane::About_Click() {
-    OpenModal<AboutForm>(this);
-}
+void Korvane::About_Click() { OpenModal<AboutForm>(this); }
 
 void Korvane::MenuTechMod_Click() {
     auto* form = OpenModal<TechModForm>(this);

@@ -100,8 +100,6 @@ void AboutForm::Form_Load() {
     PlaceFromOwner({spare.width() / 2, spare.height() / 2});
 }
 
-void AboutForm::Command1_Click() {
-    close();
-}
+void AboutForm::Command1_Click() { close(); }
 
 } // namespace ksm

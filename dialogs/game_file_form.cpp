@@ -120,8 +120,6 @@ void GameFileForm::FileNam_Click() {
     FileNam->setCursorPosition(0);
 }
 
-void GameFileForm::Cance_Click() {
-    reject();
-}
+void GameFileForm::Cance_Click() { reject(); }
 
 } // namespace ksm

@@ -76,9 +76,7 @@ const std::array<BoxDesign, 24>& Boxes() {
 }
 // clang-format on
 
-constexpr int LeftOf(TechField column) {
-    return 31 + 138 * static_cast<int>(column);
-}
+constexpr int LeftOf(TechField column) { return 31 + 138 * static_cast<int>(column); }
 
 using Corners = std::initializer_list<Point>;
 

@@ -36,9 +36,7 @@ QFont BoxFont() {
     return font;
 }
 
-QString ToQString(std::string_view name) {
-    return QLatin1StringView(name);
-}
+QString ToQString(std::string_view name) { return QLatin1StringView(name); }
 
 /// What the lines that enter a box tell the eye.
 QString Requirement(const TechBox& technology, const TechChart& chart) {
@@ -129,14 +127,10 @@ TechForm::TechForm(const char* objectName, const TechChart& shown, QWidget* owne
     PlaceFromOwner({0, 0});
 }
 
-void TechForm::Form_Click() {
-    close();
-}
+void TechForm::Form_Click() { close(); }
 
 // The boxes hand their clicks on to the window.
-void TechForm::mousePressEvent(QMouseEvent* event) {
-    pressed = event->button() == Qt::LeftButton;
-}
+void TechForm::mousePressEvent(QMouseEvent* event) { pressed = event->button() == Qt::LeftButton; }
 
 void TechForm::mouseReleaseEvent(QMouseEvent* event) {
     if (pressed && event->button() == Qt::LeftButton &&

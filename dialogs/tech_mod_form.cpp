@@ -26,9 +26,7 @@ constexpr std::array<ColourColumn, 4> Columns{{
     {"Yellow", 2640, 3000, {colour::DarkYellow, colour::Black}},
 }};
 
-QString Signed(int modifier) {
-    return (modifier > 0 ? "+" : "") + QString::number(modifier);
-}
+QString Signed(int modifier) { return (modifier > 0 ? "+" : "") + QString::number(modifier); }
 
 } // namespace
 

@@ -57,8 +57,6 @@ void AssignPlanetByName(Game& game, std::string_view name, int player) {
     }
 }
 
-void StartGame(Game& game, std::int64_t now) {
-    game.StartTime = now;
-}
+void StartGame(Game& game, std::int64_t now) { game.StartTime = now; }
 
 } // namespace ksm

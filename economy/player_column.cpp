@@ -224,13 +224,9 @@ void PlayerColumn::Enviro_Click(bool checked) {
     }
 }
 
-void PlayerColumn::PellamTools_Click(bool checked) {
-    Tick(Record().PellamTools, checked);
-}
+void PlayerColumn::PellamTools_Click(bool checked) { Tick(Record().PellamTools, checked); }
 
-void PlayerColumn::Micro_Click(bool checked) {
-    Tick(Record().Micro, checked);
-}
+void PlayerColumn::Micro_Click(bool checked) { Tick(Record().Micro, checked); }
 
 void PlayerColumn::Tick(bool& owned, bool checked) {
     if (checked != owned) {

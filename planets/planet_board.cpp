@@ -119,9 +119,7 @@ void PlanetBoard::ShowMarks() {
     }
 }
 
-QWidgetList PlanetBoard::PlayerControls(int player) const {
-    return {InvasionPlayer.at(player)};
-}
+QWidgetList PlanetBoard::PlayerControls(int player) const { return {InvasionPlayer.at(player)}; }
 
 void PlanetBoard::InvasionPlayer_Click(int owner) {
     StopCarrying();

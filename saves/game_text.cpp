@@ -13,9 +13,7 @@ namespace ksm {
 
 namespace {
 
-Failure Damaged(const std::string& problem) {
-    return {"The saved game is damaged: " + problem};
-}
+Failure Damaged(const std::string& problem) { return {"The saved game is damaged: " + problem}; }
 
 void ComputeWhatFollows(Game& game) {
     for (PlayerRecord& player : game.Players) {

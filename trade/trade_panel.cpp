@@ -104,9 +104,7 @@ void TradePanel::ShowPlayer(int player) {
     label->SetColours(record.TradeColours);
 }
 
-void TradePanel::ShowInfo() {
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
-}
+void TradePanel::ShowInfo() { TInfo->SetCaption(QString::fromStdString(game.TradeInfo)); }
 
 // A line covers those drawn before it: what follows the first that differs is painted anew.
 void TradePanel::ShowDiagram() {
@@ -125,9 +123,7 @@ void TradePanel::PaintAnew(std::span<const Stroke> strokes) {
     }
 }
 
-QWidgetList TradePanel::PlayerControls(int player) const {
-    return {TradePlayer[player]};
-}
+QWidgetList TradePanel::PlayerControls(int player) const { return {TradePlayer[player]}; }
 
 void TradePanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
