@@ -117,10 +117,10 @@ def explain(game):
                        "Yellow technology cost"):
             heading = f"{figure}, Player {player}"
             check_explanation(game, heading, f"{game.figure(heading)} = ")
-        check_explanation(game, f"Space Docks, Player {player}: ", "Enviro Comp.")
+        check_explanation(game, f"Space Docks, Player {player}: ", "Space Docks", "influence")
     check_explanation(game, "Receive Credits, Player 1", "resources")
     check_explanation(game, "Planet, row 1: ", "belongs to")
-    check_explanation(game, "Resources and influence, row 1", "resources", "influence")
+    check_explanation(game, "Resources and influence, row 1", "resource", "influence")
     check_explanation(game, "Trade, Player 1", "trades with Ada")
 
 
@@ -213,6 +213,7 @@ def pass_a_law(game):
                for top in menu if top.name == "Trade"
                for popup in top for item in popup if item.name == "Free Trade")
     check(has(law, pyatspi.STATE_CHECKED), "the law is marked as passed")
+    check("Free Trade: checked" in game.said, "its check mark is said", game.said)
     check_said(game, "FREE TRADE!")
 
 
@@ -235,6 +236,7 @@ def save_and_load(game):
     check(played != saved, "the game goes on")
     game.press("ctrl+z", "ctrl+z")
     check(until(lambda: figures(game) == saved, 3), "what was done is taken back")
+    check(any(text.startswith("Undo Space Docks") for text in game.said), "and said", game.said)
     game.press("ctrl+y", "ctrl+y")
     check(until(lambda: figures(game) == played, 3), "and done again")
     game.press("F1")

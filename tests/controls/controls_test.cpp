@@ -1,6 +1,7 @@
 #include "controls/accessible_names.h"
 #include "controls/choice_box.h"
 #include "controls/input_guard.h"
+#include "controls/message_label.h"
 #include "controls/shape_frame.h"
 #include "controls/spin_bar.h"
 #include "tests/window_test.h"
@@ -85,6 +86,25 @@ TEST(LineControl, IsAsThickEverywhereAtAnyScale) {
             }
         }
         EXPECT_EQ(thicknesses, QList<int>(4, thick)) << scale;
+    }
+}
+
+TEST(MessageLabel, ShortensLongWordsBeforeItsLetters) {
+    const std::tuple<QString, QString, bool> rows[]{
+        {"Ada and Bert make a TA", "Ada and Bert make a TA", true},
+        {"Wolfeschlegelsteinhausen and Ada\r\nmake a TA", "Wolfeschlegelst… and Ada\nmake a TA",
+         11},
+        {"Gus the Incomparable of Elsewhere and Fay the Unforgettable of Arden are not allowed to "
+         "trade with eachother",
+         "Gus the Incompar… of Elsewhere and Fay the Unforget… of Arden are not allowed to "
+         "trade with eachother",
+         false}};
+    QWidget window;
+    MessageLabel label("L", QRect(0, 0, 73, 57), &window);
+    for (const auto& [message, shown, isReadable] : rows) {
+        label.SetCaption(message);
+        EXPECT_EQ(label.ShownText(), shown);
+        EXPECT_EQ(label.ShownFont().pixelSize() >= 9, isReadable);
     }
 }
 
