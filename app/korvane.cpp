@@ -162,7 +162,6 @@ void Korvane::ShowGame() {
 void Korvane::StartGameButton_Click() {
     StartGame(state.Game, QDateTime::currentMSecsSinceEpoch());
     UpdateValues();
-    TurnOrder();
     history.Restart(state.Game);
     emit Changed();
 }
@@ -176,7 +175,6 @@ void Korvane::MenuOrlen_Click() {
 void Korvane::MenuLabour_Click() {
     ToggleLabourUnion(state.Game);
     UpdateValues();
-    TurnOrder();
     emit Changed();
 }
 

@@ -28,14 +28,6 @@ constexpr std::array<TurnOrderColumn, 3> Columns{{
     {"PInf", 128, 25, Qt::AlignHCenter, "Influence, place %1", "Inf", {121, 1, 39, 15}},
 }};
 
-void SetItalic(CaptionLabel& label, bool italic) {
-    if (label.font().italic() != italic) {
-        QFont font = label.font();
-        font.setItalic(italic);
-        label.setFont(font);
-    }
-}
-
 } // namespace
 
 TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
@@ -79,7 +71,9 @@ void TurnOrderTable::ShowGame() {
         PRes->SetCaption(QString::number(ranked.Resources));
         PInf->SetCaption(QString::number(ranked.Influence));
         for (CaptionLabel* label : rows[number]) {
-            SetItalic(*label, ranked.Italic);
+            QFont font = label->font();
+            font.setItalic(ranked.Italic);
+            label->setFont(font);
         }
     }
 }

@@ -16,12 +16,6 @@
 
 namespace ksm {
 
-namespace {
-
-constexpr QSize OwnerSize{70, 14};
-
-} // namespace
-
 PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), state(game) {
     NameAndPlace(*this, "InvasionPic", {163, 0, 172, 180}, "Planet board");
     MakeOwners();
@@ -38,8 +32,8 @@ PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), st
 
 void PlanetBoard::MakeOwners() {
     const auto make = [this](int owner, int top, const QFont& font) {
-        auto* label = new CaptionLabel(ElementName("InvasionPlayer", owner),
-                                       {QPoint(0, top), OwnerSize}, this);
+        auto* label =
+            new CaptionLabel(ElementName("InvasionPlayer", owner), {0, top, 70, 14}, this);
         label->SetAlignment(Qt::AlignCenter);
         label->setFont(font);
         label->MakeClickable();

@@ -22,7 +22,6 @@ namespace ksm {
 
 namespace {
 
-constexpr QSize LabelSize{30, 18};
 // A line of any player's colour can be told from it, and black text reads well on it.
 constexpr QColor Background{0xB8, 0xC0, 0xCA};
 
@@ -42,8 +41,7 @@ TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(sho
 
 void TradePanel::MakeLabels() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        auto* label =
-            new CaptionLabel(ElementName("TradePlayer", player), {QPoint(), LabelSize}, this);
+        auto* label = new CaptionLabel(ElementName("TradePlayer", player), {0, 0, 30, 18}, this);
         label->SetAlignment(Qt::AlignCenter);
         label->SetHeading(QString("Trade, Player %1").arg(player));
         label->SetExplanation([this, player] { return TradeText(game, player); });
@@ -92,7 +90,7 @@ void TradePanel::ShowGame() {
         ShowPlayer(player);
     }
     TradeNumber->SetCaption(QString::fromStdString(TradeCountSentence(game.TradeCount)));
-    ShowInfo();
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
     ShowDiagram();
 }
 
@@ -103,8 +101,6 @@ void TradePanel::ShowPlayer(int player) {
     label->SetCaption(QString::fromStdString(record.ShortName));
     label->SetColours(record.TradeColours);
 }
-
-void TradePanel::ShowInfo() { TInfo->SetCaption(QString::fromStdString(game.TradeInfo)); }
 
 // A line covers those drawn before it: what follows the first that differs is painted anew.
 void TradePanel::ShowDiagram() {
