@@ -35,16 +35,10 @@ void ChooseDisplay() {
     }
 }
 
-void ExplainMissingDisplay() {
-    qInstallMessageHandler(ExplainFatal);
-}
+void ExplainMissingDisplay() { qInstallMessageHandler(ExplainFatal); }
 
-void ForgetMissingDisplay() {
-    qInstallMessageHandler(nullptr);
-}
+void ForgetMissingDisplay() { qInstallMessageHandler(nullptr); }
 
-bool IsWayland() {
-    return QGuiApplication::platformName().startsWith("wayland");
-}
+bool IsWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
 
 } // namespace ksm

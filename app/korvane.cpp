@@ -66,9 +66,7 @@ Korvane::Korvane(GameState& game, KeptGame* keeper)
 }
 
 // A control that loses the focus in going may still have a change to announce.
-Korvane::~Korvane() {
-    delete takeCentralWidget();
-}
+Korvane::~Korvane() { delete takeCentralWidget(); }
 
 void Korvane::MakePanels() {
     // The order of the Tab key.
@@ -120,13 +118,9 @@ void Korvane::ConnectMenu() {
     }
 }
 
-void Korvane::UpdateValues() {
-    Recompute(state.Game);
-}
+void Korvane::UpdateValues() { Recompute(state.Game); }
 
-void Korvane::TurnOrder() {
-    ksm::TurnOrder(state.Game);
-}
+void Korvane::TurnOrder() { ksm::TurnOrder(state.Game); }
 
 void Korvane::LayoutForPlayerCount() {
     for (int player = 1; player <= MaxPlayers; ++player) {
@@ -168,7 +162,6 @@ void Korvane::ShowGame() {
 void Korvane::StartGameButton_Click() {
     StartGame(state.Game, QDateTime::currentMSecsSinceEpoch());
     UpdateValues();
-    TurnOrder();
     history.Restart(state.Game);
     emit Changed();
 }
@@ -182,7 +175,6 @@ void Korvane::MenuOrlen_Click() {
 void Korvane::MenuLabour_Click() {
     ToggleLabourUnion(state.Game);
     UpdateValues();
-    TurnOrder();
     emit Changed();
 }
 

@@ -3,6 +3,7 @@
 
 #include "model/game_state.h"
 #include "model/history.h"
+#include "model/outcome.h"
 #include "model/per_player.h"
 
 #include <QMainWindow>
@@ -82,7 +83,7 @@ private:
     void MenuTechMod_Click();
     void About_Click();
     void SetModifier(int colour, int modifier);
-    void LoadForm_GameLoaded(const GameState& loaded);
+    Outcome<> LoadGame(const QString& name);
     void NameConfirmed();
 
     void ShowAndKeep();

@@ -4,6 +4,7 @@
 #include "controls/accessible_names.h"
 #include "controls/spin_bar.h"
 #include "planets/board_listing.h"
+#include "saves/game_file.h"
 #include "saves/kept_game.h"
 
 #include <QContextMenuEvent>
@@ -63,15 +64,18 @@ void Korvane::MakeOneStepOf(QWidget* window) {
     connect(window, &QObject::destroyed, this, [this] { history.EndStep(); });
 }
 
-void Korvane::LoadForm_GameLoaded(const GameState& loaded) {
-    const std::string notesBefore = std::exchange(state, loaded).NotesText;
+Outcome<> Korvane::LoadGame(const QString& name) {
+    const Outcome<GameState> loaded = LoadGameFile(name);
+    if (!loaded) {
+        return Failure{loaded.Reason()};
+    }
+    const std::string notesBefore = std::exchange(state, *loaded).NotesText;
     history.RecordLoad(state, notesBefore);
     emit Changed();
+    return {};
 }
 
-void Korvane::Undo() {
-    TakeBack(1);
-}
+void Korvane::Undo() { TakeBack(1); }
 
 void Korvane::TakeBack(int count) {
     for (; count > 0 && history.CanUndo(); --count) {

@@ -8,12 +8,12 @@
 #include "dialogs/about_form.h"
 #include "dialogs/color_select_form.h"
 #include "dialogs/dice_form.h"
-#include "dialogs/load_form.h"
+#include "dialogs/game_file_form.h"
 #include "dialogs/note_form.h"
-#include "dialogs/save_form.h"
 #include "dialogs/tech_form.h"
 #include "dialogs/tech_mod_form.h"
 #include "economy/player_table.h"
+#include "saves/game_file.h"
 #include "saves/kept_files.h"
 #include "saves/kept_game.h"
 
@@ -53,8 +53,8 @@ Form* OpenModal(QWidget* owner, Arguments&... arguments) {
 } // namespace
 
 void Korvane::LGame_Click() {
-    auto* form = OpenModal<LoadForm>(this);
-    connect(form, &LoadForm::GameLoaded, this, &Korvane::LoadForm_GameLoaded);
+    const auto load = [this](const QString& name) { return LoadGame(name); };
+    OpenModal<GameFileForm>(this, LoadDesign, load);
 }
 
 void Korvane::SGame_Click() {
@@ -63,7 +63,8 @@ void Korvane::SGame_Click() {
                     QString("The running game is not kept in \"%1\".").arg(KeptGameName),
                     QString::fromStdString(kept->LastOutcome().Reason()), this);
     }
-    OpenModal<SaveForm>(this, state);
+    const auto save = [this](const QString& name) { return SaveGameFile(name, state); };
+    OpenModal<GameFileForm>(this, SaveDesign, save);
 }
 
 void Korvane::Notes_Click() {
@@ -71,21 +72,13 @@ void Korvane::Notes_Click() {
     connect(form, &NoteForm::Changed, this, &Korvane::Changed, Qt::UniqueConnection);
 }
 
-void Korvane::Dice_Click() {
-    Open<DiceForm>(this, menu);
-}
+void Korvane::Dice_Click() { Open<DiceForm>(this, menu); }
 
-void Korvane::Stech_Click() {
-    OpenModal<TechForm>(this);
-}
+void Korvane::Stech_Click() { OpenModal<TechForm>(this, "TechForm", StandardChart()); }
 
-void Korvane::HTech_Click() {
-    OpenModal<TechForm2>(this);
-}
+void Korvane::HTech_Click() { OpenModal<TechForm>(this, "TechForm2", ExpansionChart()); }
 
-void Korvane::About_Click() {
-    OpenModal<AboutForm>(this);
-}
+void Korvane::About_Click() { OpenModal<AboutForm>(this); }
 
 void Korvane::MenuTechMod_Click() {
     auto* form = OpenModal<TechModForm>(this);

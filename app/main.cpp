@@ -3,7 +3,6 @@
 #include "app/display_choice.h"
 #include "app/fixed_size_guard.h"
 #include "app/korvane.h"
-#include "app/program_folder.h"
 #include "app/single_instance.h"
 #include "controls/accessible_names.h"
 #include "controls/input_guard.h"
@@ -13,13 +12,24 @@
 #include "saves/kept_game.h"
 
 #include <QApplication>
+#include <QFile>
 
 namespace {
+
+/// With all links resolved; its name can hold any bytes.
+std::filesystem::path ProgramFolder() {
+    // Qt's answer has lost the bytes that are no UTF-8.
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::path(
+                       QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString())
+                 : program.parent_path();
+}
 
 /// Reads the planet list beside the program; says what is wrong with it and returns false if
 /// anything is.
 bool LoadPlanetList(ksm::GameState& state) {
-    const auto list = ksm::ReadPlanetListFile(ksm::ProgramFolder() / ksm::PlanetListName);
+    const auto list = ksm::ReadPlanetListFile(ProgramFolder() / ksm::PlanetListName);
     if (!list) {
         ksm::ShowMessage(QMessageBox::Critical, ksm::ProgramTitle,
                          QString::fromStdString(list.Reason()));

@@ -1,6 +1,7 @@
 #include "app/setup_panel.h"
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 #include "controls/spin_bar.h"
 #include "economy/game_setup.h"
@@ -11,8 +12,6 @@
 namespace ksm {
 
 namespace {
-
-constexpr QRect Panel{0, 0, 337, 180};
 
 struct LabelDesign {
     const char* Name = "";
@@ -36,9 +35,7 @@ constexpr int BottomOfScroll = ScrollForNoPlayers - MinPlayers;
 } // namespace
 
 SetupPanel::SetupPanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
-    setObjectName("GameSetupPic");
-    setAccessibleName("Game Setup");
-    setGeometry(Panel);
+    NameAndPlace(*this, "GameSetupPic", {0, 0, 337, 180}, "Game Setup");
     setAutoFillBackground(true);
     MakeLabels();
     MakeControls();
@@ -62,16 +59,14 @@ void SetupPanel::MakeControls() {
     connect(PlayNumScroll, &QScrollBar::valueChanged, this, &SetupPanel::PlayNumScroll_Change);
     MakeOptions();
     auto* start = new QPushButton("START", this);
-    start->setObjectName("StartGameButton");
-    start->setGeometry(136, 152, 53, 22);
+    NameAndPlace(*start, "StartGameButton", {136, 152, 53, 22});
     connect(start, &QPushButton::clicked, this, &SetupPanel::StartClicked);
 }
 
 void SetupPanel::MakeOptions() {
     const auto make = [this](const char* name, const char* caption, int top) {
         auto* option = new QRadioButton(caption, this);
-        option->setObjectName(name);
-        option->setGeometry(168, top, 73, 17);
+        NameAndPlace(*option, name, {168, top, 73, 17});
         return option;
     };
     make("OptionNormal", "Normal", 48)->setChecked(true);

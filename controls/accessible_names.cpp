@@ -207,9 +207,7 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 
 } // namespace
 
-void InstallAccessibleNames() {
-    QAccessible::installFactory(MakeAccessible);
-}
+void InstallAccessibleNames() { QAccessible::installFactory(MakeAccessible); }
 
 void AnnounceName(QWidget& renamed) {
     if (!QAccessible::isActive()) {

@@ -1,6 +1,7 @@
 #include "controls/caption_label.h"
 
 #include "controls/accessible_names.h"
+#include "controls/element_name.h"
 #include "controls/fitting_font.h"
 #include "controls/input.h"
 #include "controls/plain_tool_tip.h"
@@ -16,8 +17,7 @@ namespace ksm {
 
 CaptionLabel::CaptionLabel(const QString& objectName, const QRect& place, QWidget* parent)
     : QWidget(parent) {
-    setObjectName(objectName);
-    setGeometry(place);
+    NameAndPlace(*this, objectName, place);
 }
 
 void CaptionLabel::SetCaption(const QString& text) {
@@ -131,6 +131,9 @@ void CaptionLabel::PaintFocus(QPainter& painter) const {
 }
 
 bool CaptionLabel::event(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        fittedWidth = -1;
+    }
     if (event->type() == QEvent::ToolTip) {
         Fit();
         QStringList lines{shownText == caption ? QString() : caption, Explanation()};
@@ -139,13 +142,6 @@ bool CaptionLabel::event(QEvent* event) {
         return true;
     }
     return QWidget::event(event);
-}
-
-void CaptionLabel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange) {
-        fittedWidth = -1;
-    }
-    QWidget::changeEvent(event);
 }
 
 void CaptionLabel::keyPressEvent(QKeyEvent* event) {

@@ -132,8 +132,6 @@ void ChoiceBox::showPopup() {
     QComboBox::showPopup();
 }
 
-void ChoiceBox::wheelEvent(QWheelEvent* event) {
-    event->ignore();
-}
+void ChoiceBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 } // namespace ksm

@@ -1,25 +1,10 @@
 #include "controls/even_drawing.h"
 
 #include <QPainter>
-#include <QtMath>
 
 #include <algorithm>
 
 namespace ksm {
-
-namespace {
-
-// A rectangle around two points of the device, `width` pixels of it thick.
-QRect Around(QPointF from, QPointF to, int width) {
-    const auto begin = [&](double one, double other) {
-        return qRound(std::min(one, other) - width / 2.0);
-    };
-    const auto length = [&](double one, double other) { return qRound(qAbs(one - other)) + width; };
-    return {begin(from.x(), to.x()), begin(from.y(), to.y()), length(from.x(), to.x()),
-            length(from.y(), to.y())};
-}
-
-} // namespace
 
 QPointF OnDevicePixel(const QPainter& painter, QPointF place) {
     const QTransform toDevice = painter.deviceTransform();
@@ -36,7 +21,11 @@ void DrawEvenLine(QPainter& painter, QPoint from, QPoint to, int width, const QC
     }
     const QTransform toDevice = painter.deviceTransform();
     const int thickness = std::max(1, qRound(width * toDevice.m11()));
-    const QRect covered = Around(toDevice.map(from + middle), toDevice.map(to + middle), thickness);
+    const QRectF line = QRectF(toDevice.map(from + middle), toDevice.map(to + middle)).normalized();
+    const QPointF edge(thickness / 2.0, thickness / 2.0);
+    // The size is rounded by itself, so that every line of a width is as thick.
+    const QRect covered((line.topLeft() - edge).toPoint(),
+                        line.size().toSize() + QSize(thickness, thickness));
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(toDevice.inverted().mapRect(QRectF(covered)), colour);
 }

@@ -13,9 +13,7 @@ FixedDialog::FixedDialog(const char* objectName, const QString& title, QSize cli
     setAttribute(Qt::WA_DeleteOnClose);
 }
 
-void FixedDialog::PlaceFromOwner(QPoint offset) {
-    move(parentWidget()->pos() + offset);
-}
+void FixedDialog::PlaceFromOwner(QPoint offset) { move(parentWidget()->pos() + offset); }
 
 void FixedDialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !isModal()) {

@@ -69,9 +69,7 @@ QWidget* FocusGroup::First() const {
     return first == members.end() ? nullptr : *first;
 }
 
-QWidget* FocusGroup::Entry() const {
-    return last && CanHaveFocus(last) ? last.data() : First();
-}
+QWidget* FocusGroup::Entry() const { return last && CanHaveFocus(last) ? last.data() : First(); }
 
 void FocusGroup::MoveOn(QWidget& window, bool forward) {
     const auto groups = window.findChildren<FocusGroup*>();

@@ -1,13 +1,14 @@
 #include "controls/framed_bar.h"
 
+#include "controls/element_name.h"
+
 #include <QPainter>
 
 namespace ksm {
 
 FramedBar::FramedBar(const QString& objectName, const QRect& place, QWidget* parent)
     : QScrollBar(Qt::Vertical, parent) {
-    setObjectName(objectName);
-    setGeometry(place);
+    NameAndPlace(*this, objectName, place);
     setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // a right click opens the window's menu, not Qt's
     // A notch of the wheel moves no more than a page: here a single step.

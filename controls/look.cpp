@@ -84,21 +84,13 @@ void ApplyLook() {
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
 }
 
-QColor ButtonFace() {
-    return {239, 239, 239};
-}
+QColor ButtonFace() { return {239, 239, 239}; }
 
-QFont PlainFont(int pixels) {
-    return Font(Sans(), pixels, QFont::Normal);
-}
+QFont PlainFont(int pixels) { return Font(Sans(), pixels, QFont::Normal); }
 
-QFont BoldFont(int pixels) {
-    return Font(Sans(), pixels, QFont::Bold);
-}
+QFont BoldFont(int pixels) { return Font(Sans(), pixels, QFont::Bold); }
 
-QFont ArialFont(QFont::Weight weight) {
-    return Font(Arial(), SmallText, weight);
-}
+QFont ArialFont(QFont::Weight weight) { return Font(Arial(), SmallText, weight); }
 
 QFont NarrowFont(int pixels) {
     // The same on every system, whether a condensed family is installed or not, and as high.
@@ -108,8 +100,6 @@ QFont NarrowFont(int pixels) {
     return font;
 }
 
-QFont ComicFont(int pixels) {
-    return Font(Comic(), pixels, QFont::Bold);
-}
+QFont ComicFont(int pixels) { return Font(Comic(), pixels, QFont::Bold); }
 
 } // namespace ksm

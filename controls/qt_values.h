@@ -9,12 +9,8 @@
 
 namespace ksm {
 
-inline QColor ToQColor(Colour colour) {
-    return {colour.Red, colour.Green, colour.Blue};
-}
+inline QColor ToQColor(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
 
-inline QPoint ToQPoint(Point point) {
-    return {point.X, point.Y};
-}
+inline QPoint ToQPoint(Point point) { return {point.X, point.Y}; }
 
 } // namespace ksm

@@ -1,5 +1,6 @@
 #include "controls/shape_frame.h"
 
+#include "controls/element_name.h"
 #include "controls/even_drawing.h"
 
 #include <QPaintEvent>
@@ -9,8 +10,7 @@ namespace ksm {
 
 ShapeFrame::ShapeFrame(const QString& objectName, const QRect& place, int radius, QWidget* parent)
     : QWidget(parent), cornerRadius(radius) {
-    setObjectName(objectName);
-    setGeometry(place);
+    NameAndPlace(*this, objectName, place);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -31,10 +31,9 @@ void ShapeFrame::paintEvent(QPaintEvent* event) {
 
 LineControl::LineControl(const QString& objectName, const QRect& place, QWidget* parent)
     : QWidget(parent) {
-    setObjectName(objectName);
     // At a scale such as 1.5 a pixel is sometimes one of the device and sometimes two: a line that
     // is as thick everywhere needs more room than its own.
-    setGeometry(place.adjusted(0, 0, 1, 1));
+    NameAndPlace(*this, objectName, place.adjusted(0, 0, 1, 1));
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

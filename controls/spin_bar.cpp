@@ -18,11 +18,6 @@ constexpr int RepeatInterval = 120;
 
 } // namespace
 
-SpinBar::SpinBar(const QString& objectName, const QRect& place, QWidget* parent)
-    : FramedBar(objectName, place, parent) {
-    setContextMenuPolicy(Qt::NoContextMenu);
-}
-
 QAbstractSlider::SliderAction SpinBar::StepAt(QPoint place) const {
     if (!rect().contains(place)) {
         return SliderNoAction;

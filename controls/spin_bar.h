@@ -12,7 +12,7 @@ class SpinBar : public FramedBar {
     Q_OBJECT
 
 public:
-    SpinBar(const QString& objectName, const QRect& place, QWidget* parent);
+    using FramedBar::FramedBar;
 
 signals:
     /// A mouse button or a key is held on the bar: all of its steps are one thing that is done.

@@ -1,6 +1,7 @@
 #include "dialogs/about_form.h"
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 #include "controls/shape_frame.h"
 
@@ -13,20 +14,6 @@ namespace ksm {
 
 namespace {
 
-struct Caption {
-    const char* Name = "";
-    int Top = 0;
-    const char* Text = "";
-};
-
-constexpr std::array<Caption, 5> Captions{{
-    {"Label3", 37, "A game aid for two to ten players around one board."},
-    {"Label4", 53, "Written by the Korvane Astrell Manager developers."},
-    {"Label5", 69, "Free software under the MIT licence."},
-    {"Label6", 128, "Official Korvane Astrell Homepage:"},
-    {"Label7", 195, "UNofficial Korvane Astrell Site:"},
-}};
-
 constexpr int ClientWidth = 356;
 constexpr int TextLeft = 70;
 constexpr int TextWidth = ClientWidth - 2 * TextLeft;
@@ -36,8 +23,7 @@ class Picture : public QWidget {
 public:
     Picture(const QString& objectName, const QString& drawing, const QRect& place, QWidget* parent)
         : QWidget(parent), renderer(drawing) {
-        setObjectName(objectName);
-        setGeometry(place);
+        NameAndPlace(*this, objectName, place);
     }
 
 protected:
@@ -61,9 +47,7 @@ CaptionLabel* MakeLine(const char* name, int top, const QString& text, QWidget* 
 void MakeAddress(const char* name, const char* meaning, int top, const char* address,
                  QWidget* parent) {
     auto* box = new QLineEdit(address, parent);
-    box->setObjectName(name);
-    box->setAccessibleName(meaning);
-    box->setGeometry(TextLeft, top, TextWidth, 19);
+    NameAndPlace(*box, name, {TextLeft, top, TextWidth, 19}, meaning);
     box->setFrame(false);
     box->setReadOnly(true);
     box->setAlignment(Qt::AlignHCenter);
@@ -81,9 +65,11 @@ AboutForm::AboutForm(QWidget* owner)
     new ShapeFrame("Shape2", QRect(8, 182, ClientWidth - 16, 56), 6, this);
     MakeLine("Label1", 18, "Korvane Astrell (2nd E.) Manager Version 2.0", this)
         ->setFont(BoldFont());
-    for (const Caption& caption : Captions) {
-        MakeLine(caption.Name, caption.Top, caption.Text, this);
-    }
+    MakeLine("Label3", 37, "A game aid for two to ten players around one board.", this);
+    MakeLine("Label4", 53, "Written by the Korvane Astrell Manager developers.", this);
+    MakeLine("Label5", 69, "Free software under the MIT licence.", this);
+    MakeLine("Label6", 128, "Official Korvane Astrell Homepage:", this);
+    MakeLine("Label7", 195, "UNofficial Korvane Astrell Site:", this);
     new Picture("Image1(0)", ":/ksm.svg", QRect(16, 123, 48, 48), this);
     new Picture("Image1(1)", ":/ship.svg", QRect(292, 123, 48, 48), this);
     new Picture("Image2(0)", ":/moon.svg", QRect(24, 194, 32, 32), this);
@@ -97,8 +83,7 @@ AboutForm::AboutForm(QWidget* owner)
                 "https://fans.korvane-astrell.example/", this);
 
     auto* ok = new QPushButton("OK", this);
-    ok->setObjectName("Command1");
-    ok->setGeometry((ClientWidth - 81) / 2, 246, 81, 25);
+    NameAndPlace(*ok, "Command1", {(ClientWidth - 81) / 2, 246, 81, 25});
     ok->setFocus();
     connect(ok, &QPushButton::clicked, this, &AboutForm::Command1_Click);
 
@@ -115,8 +100,6 @@ void AboutForm::Form_Load() {
     PlaceFromOwner({spare.width() / 2, spare.height() / 2});
 }
 
-void AboutForm::Command1_Click() {
-    close();
-}
+void AboutForm::Command1_Click() { close(); }
 
 } // namespace ksm

@@ -63,6 +63,14 @@ QString FirstCharacters(const QString& text, int count) {
     return end < 0 ? text : text.left(end);
 }
 
+QLineEdit* MakeEntry(const char* name, const char* meaning, const QRect& place, QWidget* parent) {
+    auto* entry = new QLineEdit(parent);
+    NameAndPlace(*entry, name, place, meaning);
+    entry->setMaxLength(std::numeric_limits<int>::max());
+    entry->setValidator(new OneLine(entry));
+    return entry;
+}
+
 } // namespace
 
 ColorSelectForm::ColorSelectForm(GameState& game, QWidget* owner)
@@ -76,33 +84,21 @@ ColorSelectForm::ColorSelectForm(GameState& game, QWidget* owner)
     MakeEntries();
     MakeSwatches();
     auto* ok = new QPushButton("OK", this);
-    ok->setObjectName("ColorOK");
-    ok->setGeometry(TwipsRect(360, 1920, 855, 375));
+    NameAndPlace(*ok, "ColorOK", TwipsRect(360, 1920, 855, 375));
     connect(ok, &QPushButton::clicked, this, &ColorSelectForm::ColorOK_Click);
 }
 
 void ColorSelectForm::MakeEntries() {
-    NameEntry = MakeEntry("NameEntry", "Name", TwipsRect(45, 60, 1440, 330));
+    NameEntry = MakeEntry("NameEntry", "Name", TwipsRect(45, 60, 1440, 330), this);
     NameEntry->setText("Name");
     (new CaptionLabel("Label1", TwipsRect(60, 480, 855, 255), this))->SetCaption("Short name");
-    ShortNameEntry = MakeEntry("ShortNameEntry", "Short name", TwipsRect(975, 450, 495, 285));
+    ShortNameEntry = MakeEntry("ShortNameEntry", "Short name", TwipsRect(975, 450, 495, 285), this);
     connect(NameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::NameEntry_Change);
     connect(ShortNameEntry, &QLineEdit::textChanged, this, &ColorSelectForm::ShortNameEntry_Change);
 }
 
-QLineEdit* ColorSelectForm::MakeEntry(const char* name, const char* meaning, const QRect& place) {
-    auto* entry = new QLineEdit(this);
-    entry->setObjectName(name);
-    entry->setAccessibleName(meaning);
-    entry->setGeometry(place);
-    entry->setMaxLength(std::numeric_limits<int>::max());
-    entry->setValidator(new OneLine(entry));
-    return entry;
-}
-
 void ColorSelectForm::MakeSwatches() {
-    int number = 0;
-    for (const SwatchDesign& design : Swatches) {
+    for (int number = 0; const SwatchDesign& design : Swatches) {
         ++number;
         auto* swatch = new CaptionLabel(ElementName("NameColor", number),
                                         TwipsRect(design.Left, design.Top, 330, 270), this);

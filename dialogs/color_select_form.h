@@ -33,7 +33,6 @@ protected:
 
 private:
     void MakeEntries();
-    QLineEdit* MakeEntry(const char* name, const char* meaning, const QRect& place);
     void MakeSwatches();
     void NameEntry_Change(const QString& text);
     void ShortNameEntry_Change(const QString& text);

@@ -39,8 +39,7 @@ CaptionLabel* MakeFigure(const QString& name, QPoint corner, int pixels, QWidget
 
 } // namespace
 
-DiceForm::DiceForm(QWidget* owner, std::function<unsigned()> seed)
-    : FixedDialog("DiceForm", "Dice Roller", {125, 146}, owner), newSeed(std::move(seed)) {
+DiceForm::DiceForm(QWidget* owner) : FixedDialog("DiceForm", "Dice Roller", {125, 146}, owner) {
     (new ShapeFrame("Shape1", QRect(3, 3, 115, 112), 30, this))->SetFill(QColor(224, 224, 224));
     (new ShapeFrame("Shape2", QRect(40, 39, 41, 41), 20, this))->SetFill(QColor(206, 206, 206));
     for (int i = 0; i < MaxDice; ++i) {
@@ -52,8 +51,7 @@ DiceForm::DiceForm(QWidget* owner, std::function<unsigned()> seed)
     Coun->SetHeading("Number of dice");
 
     auto* roll = new QPushButton("Roll!", this);
-    roll->setObjectName("Command1");
-    roll->setGeometry(67, 121, 49, 25);
+    NameAndPlace(*roll, "Command1", {67, 121, 49, 25});
     QFont plain = ComicFont(MediumText);
     plain.setBold(false);
     roll->setFont(plain);
@@ -67,10 +65,6 @@ DiceForm::DiceForm(QWidget* owner, std::function<unsigned()> seed)
     Form_Load();
 }
 
-unsigned DiceForm::TimeOfDay() {
-    return static_cast<unsigned>(QTime::currentTime().msecsSinceStartOfDay());
-}
-
 void DiceForm::Form_Load() {
     PlaceFromOwner({FromTwips(8400), FromTwips(500)});
     Scroll->setValue(OneDie);
@@ -81,14 +75,14 @@ void DiceForm::Scroll_Change() {
         Scroll->setValue(OneDie); // calls this handler again
         return;
     }
-    dice = MaxDice - Scroll->value();
-    Coun->SetCaption(QString::number(dice));
+    Coun->SetCaption(QString::number(MaxDice - Scroll->value()));
 }
 
 void DiceForm::Command1_Click() {
-    std::mt19937 generator(newSeed());
+    std::mt19937 generator(static_cast<unsigned>(QTime::currentTime().msecsSinceStartOfDay()));
     std::uniform_real_distribution<double> distribution;
-    const DicePlaces rolled = RollDice(dice, [&] { return distribution(generator); });
+    const DicePlaces rolled =
+        RollDice(MaxDice - Scroll->value(), [&] { return distribution(generator); });
     QStringList said;
     for (std::size_t i = 0; i < rolled.size(); ++i) {
         Label1[i]->SetCaption(rolled[i] == 0 ? QString() : QString::number(rolled[i]));

@@ -1,6 +1,7 @@
 #include "dialogs/game_file_form.h"
 
 #include "controls/caption_label.h"
+#include "controls/element_name.h"
 #include "controls/look.h"
 #include "controls/message_box.h"
 #include "controls/plain_tool_tip.h"
@@ -37,9 +38,10 @@ QStringList GameFiles() {
 
 } // namespace
 
-GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
+GameFileForm::GameFileForm(const GameFileDesign& design, FileUse use, QWidget* owner)
     : FixedDialog(design.FormName, design.Title, Client, owner), look(design),
-      File1(new QListWidget(this)), FileNam(new QLineEdit(DefaultName, this)) {
+      useFile(std::move(use)), File1(new QListWidget(this)),
+      FileNam(new QLineEdit(DefaultName, this)) {
     setModal(true);
     BuildControls();
     PlaceFromOwner(FromOwner);
@@ -48,9 +50,7 @@ GameFileForm::GameFileForm(const GameFileDesign& design, QWidget* owner)
 void GameFileForm::BuildControls() {
     new ShapeFrame("Shape1", FramePlace, 6, this);
 
-    File1->setObjectName("File1");
-    File1->setAccessibleName("Saved games");
-    File1->setGeometry(look.List);
+    NameAndPlace(*File1, "File1", look.List, "Saved games");
     File1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const QString& name : GameFiles()) {
         auto* item = new QListWidgetItem(name, File1);
@@ -61,20 +61,16 @@ void GameFileForm::BuildControls() {
     auto* label = new CaptionLabel("Label1", look.Label, this);
     label->SetCaption("Filename:");
 
-    FileNam->setObjectName("FileNam");
-    FileNam->setAccessibleName("Filename");
-    FileNam->setGeometry(look.Box);
+    NameAndPlace(*FileNam, "FileNam", look.Box, "Filename");
     FileNam->setFont(NarrowFont());
     FileNam->installEventFilter(this);
 
     auto* confirm = new QPushButton(look.ButtonCaption, this);
-    confirm->setObjectName(look.ButtonName);
-    confirm->setGeometry(look.Button);
+    NameAndPlace(*confirm, look.ButtonName, look.Button);
     confirm->setDefault(true);
     confirm->setFocus();
     auto* cancel = new QPushButton("Cancel", this);
-    cancel->setObjectName("Cance");
-    cancel->setGeometry(CancelPlace);
+    NameAndPlace(*cancel, "Cance", CancelPlace);
 
     setTabOrder(confirm, cancel);
     setTabOrder(cancel, File1);
@@ -91,7 +87,7 @@ void GameFileForm::Confirm() {
     if (!FileNam->text().endsWith(Extension)) {
         FileNam->setText(FileNam->text() + Extension);
     }
-    if (const Outcome<> used = UseFile(FileNam->text()); used) {
+    if (const Outcome<> used = useFile(FileNam->text()); used) {
         accept();
     } else {
         ShowMessage(QMessageBox::Critical, look.FailureTitle, look.FailureText,
@@ -124,8 +120,6 @@ void GameFileForm::FileNam_Click() {
     FileNam->setCursorPosition(0);
 }
 
-void GameFileForm::Cance_Click() {
-    reject();
-}
+void GameFileForm::Cance_Click() { reject(); }
 
 } // namespace ksm

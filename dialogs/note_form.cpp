@@ -1,5 +1,6 @@
 #include "dialogs/note_form.h"
 
+#include "controls/element_name.h"
 #include "controls/shape_frame.h"
 #include "controls/twips.h"
 #include "model/game_state.h"
@@ -57,9 +58,7 @@ private:
 NoteForm::NoteForm(GameState& game, QWidget* owner)
     : FixedDialog("NoteForm", "Notes", {FromTwips(2415), FromTwips(3735)}, owner), state(game),
       Aant(new NotesBox(this)) {
-    Aant->setObjectName("Aant");
-    Aant->setAccessibleName("Notes");
-    Aant->setGeometry(TwipsRect(120, 195, 2175, 3375));
+    NameAndPlace(*Aant, "Aant", TwipsRect(120, 195, 2175, 3375), "Notes");
     // Nothing else in the window takes the focus, so Tab makes columns.
     Aant->setTabStopDistance(24);
     new ShapeFrame("Shape1", rect(), 0, this);

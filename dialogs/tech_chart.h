@@ -56,6 +56,7 @@ struct ChartMark {
 /// Connectors straight down are black; what leaves to the side has the colour of the field it comes
 /// from (orange for yellow). Later elements are drawn over earlier ones, and `Line1` last.
 struct TechChart {
+    const char* Title = "";
     std::vector<TechBox> Label1;
     std::vector<Connector> Line1;
     std::vector<Connector> Line4;
@@ -66,18 +67,5 @@ struct TechChart {
 
 const TechChart& StandardChart();
 const TechChart& ExpansionChart();
-
-Colour BoxColour(TechField field);
-
-/// Two strokes from a tip to these ends: an arrowhead, or the lower or upper half of a diamond.
-struct StrokePair {
-    Point Tip;
-    Point Line2;
-    Point Line3;
-    Colour Ink;
-};
-
-/// What the marks are drawn with; a diamond gives two pairs, the lower half first.
-std::vector<StrokePair> StrokePairs(const TechChart& chart);
 
 } // namespace ksm

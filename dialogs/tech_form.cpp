@@ -16,15 +16,27 @@ namespace {
 constexpr int ConnectorWidth = 3;
 constexpr int StrokeWidth = 2;
 
+struct FieldLook {
+    const char* Name = "";
+    Colour Back;
+};
+
+const FieldLook& LookOf(TechField field) {
+    // In the order of the enumeration.
+    static constexpr std::array<FieldLook, 4> looks{{{"green", colour::DarkGreen},
+                                                     {"yellow", colour::DarkYellow},
+                                                     {"blue", colour::Navy},
+                                                     {"red", colour::DarkRed}}};
+    return looks.at(static_cast<std::size_t>(field));
+}
+
 QFont BoxFont() {
     QFont font = NarrowFont();
     font.setBold(true);
     return font;
 }
 
-QString ToQString(std::string_view name) {
-    return QLatin1StringView(name);
-}
+QString ToQString(std::string_view name) { return QLatin1StringView(name); }
 
 /// What the lines that enter a box tell the eye.
 QString Requirement(const TechBox& technology, const TechChart& chart) {
@@ -39,24 +51,22 @@ QString Requirement(const TechBox& technology, const TechChart& chart) {
 }
 
 QString AccessibleName(const TechBox& technology, const TechChart& chart) {
-    constexpr std::array fields{"green", "yellow", "blue", "red"};
     return QString("%1, %2, %3")
-        .arg(ToQString(technology.Name),
-             QLatin1StringView(fields.at(static_cast<std::size_t>(technology.Field))),
+        .arg(ToQString(technology.Name), LookOf(technology.Field).Name,
              Requirement(technology, chart));
 }
 
 void MakeBox(const TechChart& chart, int index, QWidget* parent) {
     const TechBox& technology = chart.Label1.at(static_cast<std::size_t>(index));
     auto* box = new QLabel(parent);
-    box->setObjectName(ElementName("Label1", index));
-    box->setGeometry({ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)});
+    NameAndPlace(*box, ElementName("Label1", index),
+                 {ToQPoint(technology.Place), QSize(technology.Width, TechBoxHeight)},
+                 AccessibleName(technology, chart));
     box->setFont(BoxFont());
     box->setText(ToQString(technology.Name).replace(' ', '\n')); // one word a line
-    box->setAccessibleName(AccessibleName(technology, chart));
     box->setAlignment(Qt::AlignCenter);
     QPalette colours = box->palette();
-    colours.setColor(QPalette::Window, ToQColor(BoxColour(technology.Field)));
+    colours.setColor(QPalette::Window, ToQColor(LookOf(technology.Field).Back));
     colours.setColor(QPalette::WindowText, Qt::white);
     box->setPalette(colours);
     box->setAutoFillBackground(true);
@@ -64,11 +74,10 @@ void MakeBox(const TechChart& chart, int index, QWidget* parent) {
 
 void MakeLegend(QWidget* parent) {
     auto* legend = new QLabel("= AND", parent);
-    legend->setObjectName("Label2");
-    legend->setAccessibleName("A diamond means AND");
+    NameAndPlace(*legend, "Label2", {LegendSample.X + 13, LegendSample.Y - 8, 40, 17},
+                 "A diamond means AND");
     legend->setFont(BoxFont());
     legend->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    legend->setGeometry(LegendSample.X + 13, LegendSample.Y - 8, 40, 17);
     // A click on it does nothing.
     legend->setAttribute(Qt::WA_NoMousePropagation);
 }
@@ -80,52 +89,48 @@ void DrawConnectors(QPainter& painter, const std::vector<Connector>& connectors)
     }
 }
 
-void DrawStrokes(QPainter& painter, const std::vector<StrokePair>& pairs) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (const StrokePair& pair : pairs) {
-        painter.setPen(
-            QPen(ToQColor(pair.Ink), StrokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        const QPointF tip = ToQPoint(pair.Tip);
-        const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
-        // Both meet at the tip.
-        const std::array points{ToQPoint(pair.Line2) + even, tip + even,
-                                ToQPoint(pair.Line3) + even};
-        painter.drawPolyline(points.data(), points.size());
+// Two strokes that meet at the tip: an arrowhead, or half of a diamond.
+void DrawStrokes(QPainter& painter, QPointF tip, QPointF from, QPointF to) {
+    const QPointF even = OnDevicePixel(painter, tip) - tip + QPointF(0.5, 0.5);
+    const std::array points{from + even, tip + even, to + even};
+    painter.drawPolyline(points.data(), points.size());
+}
+
+void DrawMark(QPainter& painter, const ChartMark& mark) {
+    painter.setPen(
+        QPen(ToQColor(mark.Ink), StrokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    const QPoint at = ToQPoint(mark.At);
+    const QPoint across(StrokeSize, 0);
+    const QPoint down(0, StrokeSize);
+    switch (mark.Shape) {
+    case MarkShape::ArrowDown:
+        DrawStrokes(painter, at, at - down - across, at - down + across);
+        break;
+    case MarkShape::ArrowRight:
+        DrawStrokes(painter, at, at - across - down, at - across + down);
+        break;
+    case MarkShape::Diamond:
+        DrawStrokes(painter, at + down, at - across, at + across);
+        DrawStrokes(painter, at - down, at - across, at + across);
+        break;
     }
 }
 
 } // namespace
 
-TechForm::TechForm(QWidget* owner)
-    : TechForm("TechForm", "Korvane Astrell Technology Flowchart (Standard)", StandardChart(),
-               owner) {}
-
-TechForm2::TechForm2(QWidget* owner)
-    : TechForm("TechForm2", "Korvane Astrell Technology Flowchart (Corrin's End)", ExpansionChart(),
-               owner) {}
-
-TechForm::TechForm(const char* objectName, const QString& title, const TechChart& shown,
-                   QWidget* owner)
-    : FixedDialog(objectName, title, QSize(ChartWidth, ChartHeight), owner), chart(shown) {
+TechForm::TechForm(const char* objectName, const TechChart& shown, QWidget* owner)
+    : FixedDialog(objectName, shown.Title, QSize(ChartWidth, ChartHeight), owner), chart(shown) {
     for (int index = 0; index < static_cast<int>(chart.Label1.size()); ++index) {
         MakeBox(chart, index, this);
     }
     MakeLegend(this);
-    Form_Load();
-}
-
-void TechForm::Form_Load() {
     PlaceFromOwner({0, 0});
 }
 
-void TechForm::Form_Click() {
-    close();
-}
+void TechForm::Form_Click() { close(); }
 
 // The boxes hand their clicks on to the window.
-void TechForm::mousePressEvent(QMouseEvent* event) {
-    pressed = event->button() == Qt::LeftButton;
-}
+void TechForm::mousePressEvent(QMouseEvent* event) { pressed = event->button() == Qt::LeftButton; }
 
 void TechForm::mouseReleaseEvent(QMouseEvent* event) {
     if (pressed && event->button() == Qt::LeftButton &&
@@ -139,7 +144,10 @@ void TechForm::paintEvent(QPaintEvent*) {
     for (const auto* connectors : {&chart.Line6, &chart.Line5, &chart.Line4, &chart.Line1}) {
         DrawConnectors(painter, *connectors);
     }
-    DrawStrokes(painter, StrokePairs(chart));
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const ChartMark& mark : chart.Marks) {
+        DrawMark(painter, mark);
+    }
 }
 
 } // namespace ksm

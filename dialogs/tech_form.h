@@ -1,4 +1,4 @@
-// The technology charts of the standard rules and of the expansion.
+// The window of a technology chart.
 #pragma once
 
 #include "controls/fixed_dialog.h"
@@ -6,35 +6,24 @@
 
 namespace ksm {
 
-/// Shows the standard chart over the top left corner of its owner until it is clicked or closed.
+/// Shows a chart over the top left corner of its owner until it is clicked or closed.
 class TechForm : public FixedDialog {
     Q_OBJECT
 
 public:
-    explicit TechForm(QWidget* owner);
+    /// `shown` must outlive the window.
+    TechForm(const char* objectName, const TechChart& shown, QWidget* owner);
 
 protected:
-    /// `shown` must outlive the window.
-    TechForm(const char* objectName, const QString& title, const TechChart& shown, QWidget* owner);
-
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void Form_Load();
     void Form_Click();
 
     const TechChart& chart;
     bool pressed = false;
-};
-
-/// Shows the chart of the Corrin's End expansion.
-class TechForm2 : public TechForm {
-    Q_OBJECT
-
-public:
-    explicit TechForm2(QWidget* owner);
 };
 
 } // namespace ksm

@@ -26,9 +26,7 @@ constexpr std::array<ColourColumn, 4> Columns{{
     {"Yellow", 2640, 3000, {colour::DarkYellow, colour::Black}},
 }};
 
-QString Signed(int modifier) {
-    return (modifier > 0 ? "+" : "") + QString::number(modifier);
-}
+QString Signed(int modifier) { return (modifier > 0 ? "+" : "") + QString::number(modifier); }
 
 } // namespace
 
@@ -59,17 +57,15 @@ TechModForm::TechModForm(QWidget* owner)
         bar->SetCount(
             {.AtZero = NeutralModifier, .Least = -NeutralModifier, .Most = NeutralModifier});
         bar->SetRange(0, MaxModifier, NeutralModifier);
-        connect(bar, &FramedBar::valueChanged, this, [this, index] { VScroll1_Change(index); });
-        VScroll1[at] = bar;
+        connect(bar, &FramedBar::valueChanged, this,
+                [this, index](int position) { VScroll1_Change(index, position); });
     }
     // In the middle of the upper half, where it leaves the costs in view.
     PlaceFromOwner({204, 70});
 }
 
-void TechModForm::VScroll1_Change(int index) {
-    const auto at = static_cast<std::size_t>(index);
-    const int position = VScroll1[at]->value();
-    TechModLabel[at]->SetCaption(Signed(NeutralModifier - position));
+void TechModForm::VScroll1_Change(int index, int position) {
+    TechModLabel[static_cast<std::size_t>(index)]->SetCaption(Signed(NeutralModifier - position));
     emit ModifierChanged(index, MaxModifier - position);
 }
 

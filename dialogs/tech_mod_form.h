@@ -8,7 +8,6 @@
 namespace ksm {
 
 class CaptionLabel;
-class FramedBar;
 
 /// Four bars that raise or lower the technology cost of one colour for everybody. It always opens
 /// with every bar at its centre, whatever the modifiers in force: a modifier changes only when its
@@ -24,10 +23,9 @@ signals:
     void ModifierChanged(int index, int value);
 
 private:
-    void VScroll1_Change(int index);
+    void VScroll1_Change(int index, int position);
 
     std::array<CaptionLabel*, 4> TechModLabel{};
-    std::array<FramedBar*, 4> VScroll1{};
 };
 
 } // namespace ksm

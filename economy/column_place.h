@@ -14,6 +14,16 @@ struct ColumnPlace {
 };
 
 /// The column of player 1..`players` in a game of 2 to 10.
-ColumnPlace PlaceOfColumn(int player, int players);
+constexpr ColumnPlace PlaceOfColumn(int player, int players) {
+    constexpr int TableLeft = 80;
+    constexpr int TableWidth = 560;
+    const int share = TableWidth / players;
+    // The whole product is divided, so that the columns of three players start at 80, 266 and 453.
+    const int left = (player - 1) * TableWidth / players + TableLeft;
+    return {.Left = left,
+            .NameWidth = share - 1,
+            .RaceWidth = share - 2,
+            .FigureLeft = TableWidth / 2 / players + left - 20};
+}
 
 } // namespace ksm

@@ -39,9 +39,7 @@ constexpr std::array<FigureDesign, FigureCount> Figures{
      {"Yellow cost", &PlayerFigures::YellowTech, Specialty::None, &PlayerRecord::YellowCost,
       &Game::YellowModifier}}};
 
-const FigureDesign& DesignOf(Figure figure) {
-    return Figures.at(static_cast<std::size_t>(figure));
-}
+const FigureDesign& DesignOf(Figure figure) { return Figures.at(static_cast<std::size_t>(figure)); }
 
 /// " (1 planet)", " (3 planets)".
 std::string Count(int number, const std::string& what) {

@@ -6,17 +6,6 @@
 
 namespace ksm {
 
-namespace {
-
-void SetEnviro(PlayerRecord& player, bool owned) {
-    if (player.Enviro != owned) {
-        player.Enviro = owned;
-        UpdateTechBoxes(player);
-    }
-}
-
-} // namespace
-
 void SetPlayerCount(Game& game, int players) {
     assert(players >= MinPlayers && players <= MaxPlayers);
     game.NumPlayers = players;
@@ -35,7 +24,10 @@ void ChooseRace(Game& game, int player, Race race) {
         }
     }
     const RaceTraits& traits = TraitsOf(race);
-    SetEnviro(record, traits.Enviro);
+    if (record.Enviro != traits.Enviro) {
+        record.Enviro = traits.Enviro;
+        UpdateTechBoxes(record);
+    }
     for (const std::string_view home : traits.Homes) {
         if (!home.empty()) {
             AssignPlanetByName(game, home, player);
@@ -57,8 +49,6 @@ void AssignPlanetByName(Game& game, std::string_view name, int player) {
     }
 }
 
-void StartGame(Game& game, std::int64_t now) {
-    game.StartTime = now;
-}
+void StartGame(Game& game, std::int64_t now) { game.StartTime = now; }
 
 } // namespace ksm

@@ -6,9 +6,7 @@
 namespace ksm {
 
 /// The figures follow with the next UpdateValues.
-inline void ToggleLabourUnion(Game& game) {
-    game.Laws.LabourUnion = !game.Laws.LabourUnion;
-}
+inline void ToggleLabourUnion(Game& game) { game.Laws.LabourUnion = !game.Laws.LabourUnion; }
 
 /// The order of play follows with the next TurnOrder.
 inline void ToggleOrlenHouseRules(Game& game) {

@@ -79,9 +79,7 @@ CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, con
 
 QCheckBox* PlayerColumn::MakeBox(const char* name, const Technology& technology, int top) {
     auto* box = new QCheckBox(window);
-    box->setObjectName(ElementName(name, player));
-    box->setGeometry(0, top, 17, 17);
-    box->setAccessibleName(Heading(technology.Caption));
+    NameAndPlace(*box, ElementName(name, player), {0, top, 17, 17}, Heading(technology.Caption));
     box->setToolTip(technology.Tip);
     return box;
 }
@@ -226,13 +224,9 @@ void PlayerColumn::Enviro_Click(bool checked) {
     }
 }
 
-void PlayerColumn::PellamTools_Click(bool checked) {
-    Tick(Record().PellamTools, checked);
-}
+void PlayerColumn::PellamTools_Click(bool checked) { Tick(Record().PellamTools, checked); }
 
-void PlayerColumn::Micro_Click(bool checked) {
-    Tick(Record().Micro, checked);
-}
+void PlayerColumn::Micro_Click(bool checked) { Tick(Record().Micro, checked); }
 
 void PlayerColumn::Tick(bool& owned, bool checked) {
     if (checked != owned) {

@@ -7,6 +7,9 @@ namespace ksm {
 
 /// Applied whenever the player's Enviro Comp. box changes. A box that is ticked stays enabled, and
 /// nothing here ticks or clears a box.
-void UpdateTechBoxes(PlayerRecord& player);
+inline void UpdateTechBoxes(PlayerRecord& player) {
+    player.PellamToolsEnabled = player.Enviro || player.PellamTools;
+    player.MicroEnabled = player.PellamToolsEnabled || (player.MicroEnabled && player.Micro);
+}
 
 } // namespace ksm

@@ -22,28 +22,16 @@ struct TurnOrderColumn {
 
 namespace {
 
-constexpr QRect Panel{0, 0, 160, 180};
-
 constexpr std::array<TurnOrderColumn, 3> Columns{{
     {"PolPlay", 16, 65, Qt::AlignLeft, "Place %1", "Player", {16, 1, 64, 15}},
     {"PRes", 88, 25, Qt::AlignHCenter, "Resources, place %1", "Res", {80, 1, 41, 15}},
     {"PInf", 128, 25, Qt::AlignHCenter, "Influence, place %1", "Inf", {121, 1, 39, 15}},
 }};
 
-void SetItalic(CaptionLabel& label, bool italic) {
-    if (label.font().italic() != italic) {
-        QFont font = label.font();
-        font.setItalic(italic);
-        label.setFont(font);
-    }
-}
-
 } // namespace
 
 TurnOrderTable::TurnOrderTable(const Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
-    setObjectName("UpLefPic");
-    setAccessibleName("Order of play");
-    setGeometry(Panel);
+    NameAndPlace(*this, "UpLefPic", {0, 0, 160, 180}, "Order of play");
     for (const TurnOrderColumn& column : Columns) {
         auto* label = new CaptionLabel(QString(), column.Place, this);
         label->setFont(BoldFont());
@@ -83,7 +71,9 @@ void TurnOrderTable::ShowGame() {
         PRes->SetCaption(QString::number(ranked.Resources));
         PInf->SetCaption(QString::number(ranked.Influence));
         for (CaptionLabel* label : rows[number]) {
-            SetItalic(*label, ranked.Italic);
+            QFont font = label->font();
+            font.setItalic(ranked.Italic);
+            label->setFont(font);
         }
     }
 }

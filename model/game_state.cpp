@@ -12,12 +12,4 @@ Game::Game() : TradeInfo("\r\nPress Add to make a Trade Agreement") {
     }
 }
 
-std::int16_t& Game::Cell(int row, int column) {
-    return TradeAgreements.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
-}
-
-std::int16_t Game::Cell(int row, int column) const {
-    return TradeAgreements.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
-}
-
 } // namespace ksm

@@ -22,6 +22,10 @@ using TradeTable = std::array<std::array<std::int16_t, OwnerSlots>, OwnerSlots>;
 inline constexpr std::int16_t Agreement = -1;
 inline constexpr std::int16_t NoAgreement = 0;
 
+auto& CellOf(auto& table, int row, int column) {
+    return table.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
+}
+
 /// What the next click on a player's trade label means.
 enum class TradeMode : std::uint8_t {
     Idle = 0,
@@ -94,8 +98,8 @@ struct Game {
     std::span<const PlanetRecord> LoadedPlanets() const {
         return std::span(Planets).first(static_cast<std::size_t>(NumPlanets));
     }
-    std::int16_t& Cell(int row, int column);
-    std::int16_t Cell(int row, int column) const;
+    std::int16_t& Cell(int row, int column) { return CellOf(TradeAgreements, row, column); }
+    std::int16_t Cell(int row, int column) const { return CellOf(TradeAgreements, row, column); }
 };
 
 /// How the people at the table look at the game: none of it changes the game.

@@ -29,9 +29,7 @@ constexpr std::array<DesignLabels, MaxPlayers> Design{{
     {"Player10", {Red, White}, "PL10", {Red, White}},
 }};
 
-const DesignLabels& DesignOf(int player) {
-    return Design.at(static_cast<std::size_t>(player - 1));
-}
+const DesignLabels& DesignOf(int player) { return Design.at(static_cast<std::size_t>(player - 1)); }
 
 } // namespace
 

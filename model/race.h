@@ -31,8 +31,6 @@ inline constexpr std::array<RaceTraits, RaceCount + 1> Races{{
     {"Race"}, // until a choice is made
 }};
 
-constexpr const RaceTraits& TraitsOf(Race race) {
-    return Races[static_cast<std::size_t>(race)];
-}
+constexpr const RaceTraits& TraitsOf(Race race) { return Races[static_cast<std::size_t>(race)]; }
 
 } // namespace ksm

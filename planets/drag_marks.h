@@ -7,12 +7,25 @@ namespace ksm {
 
 /// Marks the owner label 0..10 and the row that is dragged over it; another owner loses its mark.
 /// The listed owner and "All planets" are never marked, and nothing happens over them.
-void MarkDragOver(GameState& state, int owner, int row);
+inline void MarkDragOver(GameView& view, int owner, int row) {
+    if (owner != view.BoardPlayer && owner != AllPlanets) {
+        view.MarkedOwner = owner;
+        view.MarkedRows.set(static_cast<std::size_t>(row));
+    }
+}
 
 /// A drop on the owner was accepted: takes the marks off all rows and off this owner.
-void UnmarkAfterDrop(GameState& state, int owner);
+inline void UnmarkAfterDrop(GameView& view, int owner) {
+    view.MarkedRows.reset();
+    if (view.MarkedOwner == owner) {
+        view.MarkedOwner = NoOwner;
+    }
+}
 
 /// The drag was cancelled: takes all marks away.
-void UnmarkAll(GameState& state);
+inline void UnmarkAll(GameView& view) {
+    view.MarkedRows.reset();
+    view.MarkedOwner = NoOwner;
+}
 
 } // namespace ksm

@@ -16,17 +16,8 @@
 
 namespace ksm {
 
-namespace {
-
-constexpr QRect Panel{163, 0, 172, 180};
-constexpr QSize OwnerSize{70, 14};
-
-} // namespace
-
 PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), state(game) {
-    setObjectName("InvasionPic");
-    setAccessibleName("Planet board");
-    setGeometry(Panel);
+    NameAndPlace(*this, "InvasionPic", {163, 0, 172, 180}, "Planet board");
     MakeOwners();
     MakeRows();
     new LineControl("InvasionLine", {70, 1, 1, 178}, this);
@@ -41,8 +32,8 @@ PlanetBoard::PlanetBoard(GameState& game, QWidget* parent) : QWidget(parent), st
 
 void PlanetBoard::MakeOwners() {
     const auto make = [this](int owner, int top, const QFont& font) {
-        auto* label = new CaptionLabel(ElementName("InvasionPlayer", owner),
-                                       {QPoint(0, top), OwnerSize}, this);
+        auto* label =
+            new CaptionLabel(ElementName("InvasionPlayer", owner), {0, top, 70, 14}, this);
         label->SetAlignment(Qt::AlignCenter);
         label->setFont(font);
         label->MakeClickable();
@@ -122,9 +113,7 @@ void PlanetBoard::ShowMarks() {
     }
 }
 
-QWidgetList PlanetBoard::PlayerControls(int player) const {
-    return {InvasionPlayer.at(player)};
-}
+QWidgetList PlanetBoard::PlayerControls(int player) const { return {InvasionPlayer.at(player)}; }
 
 void PlanetBoard::InvasionPlayer_Click(int owner) {
     StopCarrying();

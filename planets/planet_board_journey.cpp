@@ -114,7 +114,7 @@ void PlanetBoard::CancelDrag() {
 void PlanetBoard::InvasionPlayer_DragOver(int owner) {
     journey->Over = owner;
     const GameView before = state.View;
-    MarkDragOver(state, owner, journey->Row);
+    MarkDragOver(state.View, owner, journey->Row);
     if (state.View != before) {
         emit Changed();
     }
@@ -124,7 +124,7 @@ void PlanetBoard::InvasionPlayer_DragDrop(int owner, int tag) {
     if (!AcceptsDrop(state, owner, tag)) {
         return;
     }
-    UnmarkAfterDrop(state, owner);
+    UnmarkAfterDrop(state.View, owner);
     if (TransferPlanet(state, tag, owner)) {
         Recompute(state.Game);
         ListOwner(state, state.View.BoardPlayer);
@@ -133,7 +133,7 @@ void PlanetBoard::InvasionPlayer_DragDrop(int owner, int tag) {
 }
 
 void PlanetBoard::InvasionPic_DragDrop() {
-    UnmarkAll(state);
+    UnmarkAll(state.View);
     emit Changed();
 }
 
@@ -169,7 +169,7 @@ void PlanetBoard::PutBack() {
 void PlanetBoard::StopCarrying() {
     if (IsCarrying()) {
         journey.reset();
-        UnmarkAll(state);
+        UnmarkAll(state.View);
     }
 }
 

@@ -20,9 +20,7 @@ std::string Range(int least, int most) {
     return std::to_string(least) + " to " + std::to_string(most);
 }
 
-std::string PlanetRange() {
-    return Range(1, MaxPlanets) + " planets";
-}
+std::string PlanetRange() { return Range(1, MaxPlanets) + " planets"; }
 
 // Takes the first line off `text`. Carriage return ends a line, with or without a line feed behind
 // it; a line feed alone does not.
@@ -111,9 +109,7 @@ private:
 
 } // namespace
 
-std::string_view FieldBeforeComma(std::string_view text) {
-    return text.substr(0, text.find(','));
-}
+std::string_view FieldBeforeComma(std::string_view text) { return text.substr(0, text.find(',')); }
 
 std::string_view TextAfterComma(std::string_view text) {
     const std::size_t comma = text.find(',');

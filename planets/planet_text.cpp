@@ -4,15 +4,6 @@
 
 namespace ksm {
 
-namespace {
-
-const char* ColourName(Specialty specialty) {
-    constexpr std::array<const char*, SpecialtyCount> names{"no", "blue", "green", "red"};
-    return names.at(static_cast<std::size_t>(specialty));
-}
-
-} // namespace
-
 std::string OwnerText(const Game& game, int planet) {
     if (planet >= game.NumPlanets) {
         return {};
@@ -31,7 +22,8 @@ std::string PlanetFiguresText(const Game& game, int planet) {
                        (record.Resources == 1 ? " resource, " : " resources, ") +
                        std::to_string(record.Influence) + " influence";
     if (record.Specialty != Specialty::None) {
-        text += std::string("\nmakes ") + ColourName(record.Specialty) +
+        constexpr std::array<const char*, SpecialtyCount> colours{"no", "blue", "green", "red"};
+        text += std::string("\nmakes ") + colours[static_cast<std::size_t>(record.Specialty)] +
                 " technology cheaper by its resources";
         text += game.Player(record.Owner).PellamTools ? " and one more (Pellam Tools)" : "";
     }

@@ -30,11 +30,6 @@ inline constexpr auto RaceWords = [] {
 /// Milliseconds since 1970 that JSON can hold.
 inline constexpr std::int64_t LatestTime = (std::int64_t{1} << 53) - 1;
 
-/// The planets of a list without the free slots at its end.
-inline std::vector<std::uint8_t> Packed(const PlanetIndexList& list) {
-    return {list.begin(), std::ranges::find(list, NoPlanet)};
-}
-
 struct SavedAgreement {
     int Maker = 0;
     int Partner = 0;
@@ -104,7 +99,9 @@ private:
     template<typename Members, typename Record>
     static void DescribePlanetList(Members& members, const char* name, Record& record,
                                    int planets) {
-        std::vector<std::uint8_t> list = Packed(record.PlanetList);
+        // Without the free numbered at its end.
+        std::vector<std::uint8_t> list(record.PlanetList.begin(),
+                                       std::ranges::find(record.PlanetList, NoPlanet));
         members.Numbers(name, list, MaxPlanets, 0, planets - 1);
         if constexpr (Members::Reading) {
             std::ranges::copy(list, record.PlanetList.begin());
@@ -115,8 +112,8 @@ private:
     // race.
     template<typename Members, typename State>
     static void DescribePlayers(Members& members, State& state) {
-        const auto slots = std::span(state.Game.Players).subspan(1, MaxPlayers);
-        std::vector<PlayerRecord> players(slots.begin(), slots.end());
+        const auto numbered = std::span(state.Game.Players).subspan(1, MaxPlayers);
+        std::vector<PlayerRecord> players(numbered.begin(), numbered.end());
         members.List("Players", players, MaxPlayers, MaxPlayers, [&](auto& player, auto& record) {
             player.Text("Name", record.Name);
             player.Bool("Named", record.Named);
@@ -134,7 +131,7 @@ private:
             player.Number("TradeRing", record.TradeRing, MinPlayers, MaxPlayers);
         });
         if constexpr (Members::Reading) {
-            std::ranges::move(players, slots.begin());
+            std::ranges::move(players, numbered.begin());
         }
     }
 

@@ -40,11 +40,8 @@ void JsonReader::Colour(const char* name, ksm::Colour& colour) {
 
 void JsonReader::Point(const char* name, ksm::Point& point, int right, int bottom) {
     const QJsonArray pair = ExtractList(name, 2, 2);
-    const auto number = [&](qsizetype index, int otherwise, int most) {
-        return static_cast<int>(
-            CheckNumber(pair.at(index), Where(name, index), otherwise, 0, most));
-    };
-    point = {number(0, point.X, right), number(1, point.Y, bottom)};
+    ReadNumber(pair.at(0), Where(name, 0), point.X, 0, right);
+    ReadNumber(pair.at(1), Where(name, 1), point.Y, 0, bottom);
 }
 
 void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, int longest,
@@ -52,8 +49,7 @@ void JsonReader::Numbers(const char* name, std::vector<std::uint8_t>& values, in
     values.clear();
     for (const QJsonValue element : ExtractList(name, 0, longest)) {
         const QString place = Where(name, static_cast<qsizetype>(values.size()));
-        values.push_back(
-            static_cast<std::uint8_t>(CheckNumber(element, place, least, least, most)));
+        ReadNumber(element, place, values.emplace_back(), least, most);
     }
 }
 
@@ -79,16 +75,6 @@ QJsonArray JsonReader::ExtractList(const char* name, int fewest, int longest) {
     }
     Refuse(Where(name), QString("is not a list of %1 to %2 elements").arg(fewest).arg(longest));
     return {};
-}
-
-qint64 JsonReader::CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
-                               qint64 least, qint64 most) {
-    const qint64 number = value.toInteger(least - 1);
-    if (number >= least && number <= most) {
-        return number;
-    }
-    Refuse(where, QString("is not a whole number from %1 to %2").arg(least).arg(most));
-    return otherwise;
 }
 
 std::size_t JsonReader::FindWord(const char* name, std::size_t otherwise,

@@ -29,7 +29,7 @@ public:
 
     template<typename Whole>
     void Number(const char* name, Whole& value, qint64 least, qint64 most) {
-        value = static_cast<Whole>(CheckNumber(Extract(name), Where(name), value, least, most));
+        ReadNumber(Extract(name), Where(name), value, least, most);
     }
     void Bool(const char* name, bool& value);
     void Text(const char* name, std::string& utf8);
@@ -67,6 +67,17 @@ public:
     void Finish();
 
 private:
+    template<typename Whole>
+    void ReadNumber(const QJsonValue& number, const QString& place, Whole& value, qint64 least,
+                    qint64 most) {
+        const qint64 found = number.toInteger(least - 1);
+        if (found < least || found > most) {
+            Refuse(place, QString("is not a whole number from %1 to %2").arg(least).arg(most));
+            return;
+        }
+        value = static_cast<Whole>(found);
+    }
+
     template<typename Value, typename DescribeMembers>
     void Read(const QJsonValue& object, const QString& place, Value& value,
               const DescribeMembers& describe) {
@@ -81,8 +92,6 @@ private:
     /// Removes the member from those that are left, and returns it.
     QJsonValue Extract(const char* name);
     QJsonArray ExtractList(const char* name, int fewest, int longest);
-    qint64 CheckNumber(const QJsonValue& value, const QString& where, qint64 otherwise,
-                       qint64 least, qint64 most);
     std::size_t FindWord(const char* name, std::size_t otherwise,
                          std::span<const std::string_view> words);
     QString Where(const char* name) const;

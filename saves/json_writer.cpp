@@ -7,13 +7,8 @@ void JsonWriter::Text(const char* name, const std::string& utf8) {
 }
 
 void JsonWriter::Colour(const char* name, ksm::Colour colour) {
-    constexpr std::string_view Digits = "0123456789ABCDEF";
-    std::string text = "#";
-    for (const std::uint8_t part : {colour.Red, colour.Green, colour.Blue}) {
-        text += Digits[part / 16U];
-        text += Digits[part % 16U];
-    }
-    Put(name, QLatin1StringView(text));
+    const int number = colour.Red << 16 | colour.Green << 8 | colour.Blue;
+    Put(name, QString("#%1").arg(number, 6, 16, QChar('0')).toUpper());
 }
 
 void JsonWriter::Point(const char* name, ksm::Point point, int, int) {

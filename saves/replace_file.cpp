@@ -1,9 +1,9 @@
 #include "saves/replace_file.h"
 
+#include <QRegularExpression>
 #include <QString>
 #include <QSysInfo>
 
-#include <charconv>
 #include <system_error>
 #include <unistd.h>
 
@@ -66,21 +66,14 @@ Outcome<> ReplaceFile(const fs::path& path, std::string_view content, Durability
 }
 
 void RemoveLeftovers(const fs::path& folder) {
-    const std::string beginning = LeftoverBeginning();
+    const QString beginning = QString::fromStdString(LeftoverBeginning());
+    const QRegularExpression leftover(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(beginning) + "([0-9]+)(-old)?\\.tmp"));
     std::error_code ignored;
     for (fs::directory_iterator file(folder, ignored), end; file != end; file.increment(ignored)) {
-        const std::string name = file->path().filename();
-        if (!name.starts_with(beginning)) {
-            continue;
-        }
-        unsigned process = 0;
-        const std::string_view rest = std::string_view(name).substr(beginning.size());
-        const auto [ending, error] =
-            std::from_chars(rest.data(), rest.data() + rest.size(), process);
-        const bool isLeftover =
-            error == std::errc() &&
-            (ending == std::string_view(LeftoverEnding) || ending == std::string_view(CopyEnding));
-        if (isLeftover && !IsRunning(process)) {
+        const QString name = QString::fromStdString(file->path().filename());
+        const QRegularExpressionMatch match = leftover.match(name);
+        if (match.hasMatch() && !IsRunning(match.captured(1).toUInt())) {
             fs::remove(*file, ignored);
         }
     }

@@ -11,9 +11,7 @@ namespace ksm {
 
 namespace {
 
-Failure LastFailure() {
-    return {std::generic_category().message(errno)};
-}
+Failure LastFailure() { return {std::generic_category().message(errno)}; }
 
 int Open(const std::filesystem::path& path, int flags) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): as it is declared.
@@ -33,9 +31,7 @@ Outcome<> Write(int file, std::string_view content) {
 }
 
 // Some file systems have nothing to do for a folder, and say so.
-Outcome<> Sync(int file) {
-    return fsync(file) == 0 || errno == EINVAL ? Outcome() : LastFailure();
-}
+Outcome<> Sync(int file) { return fsync(file) == 0 || errno == EINVAL ? Outcome() : LastFailure(); }
 
 } // namespace
 

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <map>
+#include <random>
 
 namespace ksm {
 namespace {
@@ -144,14 +145,31 @@ QImage NameDialog() {
     return Grab(*evening.Find<QWidget>("ColorSelectForm"));
 }
 
+/// The same number of dice as just fell, but always in the same way.
+void LetFallAgain(const DiceForm& form) {
+    std::array<CaptionLabel*, MaxDice> places{};
+    int dice = 0;
+    for (int place = 0; auto*& label : places) {
+        label = form.findChild<CaptionLabel*>(ElementName("Label1", place++));
+        dice += label->Caption().isEmpty() ? 0 : 1;
+    }
+    std::mt19937 generator(10);
+    std::uniform_real_distribution<double> distribution;
+    const DicePlaces fallen = RollDice(dice, [&] { return distribution(generator); });
+    for (std::size_t place = 0; place < places.size(); ++place) {
+        places[place]->SetCaption(fallen[place] == 0 ? "" : QString::number(fallen[place]));
+    }
+}
+
 QImage Dice() {
     QWidget owner;
-    DiceForm form(&owner, [] { return 10U; });
+    DiceForm form(&owner);
     auto* scroll = form.findChild<QScrollBar*>("Scroll");
     QList<QImage> rolls{Grab(form)};
     for (const int position : {5, 0, 7, 4, scroll->maximum()}) {
         scroll->setValue(position);
         form.findChild<QPushButton*>("Command1")->click();
+        LetFallAgain(form);
         rolls << Grab(form);
     }
     return Column(rolls);

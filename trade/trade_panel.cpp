@@ -22,17 +22,13 @@ namespace ksm {
 
 namespace {
 
-constexpr QRect Panel{338, 0, 300, 180};
-constexpr QSize LabelSize{30, 18};
 // A line of any player's colour can be told from it, and black text reads well on it.
 constexpr QColor Background{0xB8, 0xC0, 0xCA};
 
 } // namespace
 
 TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
-    setObjectName("TradePic");
-    setAccessibleName("Trade");
-    setGeometry(Panel);
+    NameAndPlace(*this, "TradePic", {338, 0, 300, 180}, "Trade");
     QPalette painted = palette();
     painted.setColor(QPalette::Window, Background);
     setPalette(painted);
@@ -45,8 +41,7 @@ TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(sho
 
 void TradePanel::MakeLabels() {
     for (int player = 1; player <= MaxPlayers; ++player) {
-        auto* label =
-            new CaptionLabel(ElementName("TradePlayer", player), {QPoint(), LabelSize}, this);
+        auto* label = new CaptionLabel(ElementName("TradePlayer", player), {0, 0, 30, 18}, this);
         label->SetAlignment(Qt::AlignCenter);
         label->SetHeading(QString("Trade, Player %1").arg(player));
         label->SetExplanation([this, player] { return TradeText(game, player); });
@@ -69,8 +64,7 @@ void TradePanel::MakeButtons() {
 
 QPushButton* TradePanel::MakeButton(const char* name, const char* caption, int top) {
     auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setGeometry(230, top, 65, 25);
+    NameAndPlace(*button, name, {230, top, 65, 25});
     return button;
 }
 
@@ -96,7 +90,7 @@ void TradePanel::ShowGame() {
         ShowPlayer(player);
     }
     TradeNumber->SetCaption(QString::fromStdString(TradeCountSentence(game.TradeCount)));
-    ShowInfo();
+    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
     ShowDiagram();
 }
 
@@ -106,10 +100,6 @@ void TradePanel::ShowPlayer(int player) {
     label->move(ToQPoint(PlaceInRing(player, record.TradeRing)));
     label->SetCaption(QString::fromStdString(record.ShortName));
     label->SetColours(record.TradeColours);
-}
-
-void TradePanel::ShowInfo() {
-    TInfo->SetCaption(QString::fromStdString(game.TradeInfo));
 }
 
 // A line covers those drawn before it: what follows the first that differs is painted anew.
@@ -129,9 +119,7 @@ void TradePanel::PaintAnew(std::span<const Stroke> strokes) {
     }
 }
 
-QWidgetList TradePanel::PlayerControls(int player) const {
-    return {TradePlayer[player]};
-}
+QWidgetList TradePanel::PlayerControls(int player) const { return {TradePlayer[player]}; }
 
 void TradePanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -40,7 +40,6 @@ private:
     void RemoveTAButton_Click();
     void TradePlayer_Click(int player);
     void ShowPlayer(int player);
-    void ShowInfo();
     void ShowDiagram();
     void PaintAnew(std::span<const Stroke> strokes);
 

@@ -9,9 +9,7 @@ namespace {
 
 constexpr auto SelectFirstPlayer = "\r\nSelect first player...";
 
-const std::string& Name(const Game& game, int player) {
-    return game.Player(player).Name;
-}
+const std::string& Name(const Game& game, int player) { return game.Player(player).Name; }
 
 // The player clicked last is named first.
 std::string Message(const Game& game, int last, const char* joint, int first, const char* ending) {

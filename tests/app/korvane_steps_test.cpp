@@ -1,7 +1,6 @@
 // What was done in the main window, taken back and made again.
 
 #include "controls/spin_bar.h"
-#include "dialogs/load_form.h"
 #include "tests/random_play.h"
 
 #include <QCheckBox>
@@ -122,9 +121,7 @@ TEST(Steps, StartIsFinalAndALoadedGameIsNot) {
     game.Undo();
     EXPECT_TRUE(game.state.Game.Started() && game.state.Game.Player(1).Race == Race::Altheran);
     const GameState before = game.state;
-    game.Choose("LGame");
-    emit game.Find<LoadForm>("LoadForm")->GameLoaded(GameOfTwentyPlanets());
-    game.Close("LoadForm");
+    game.Load(GameOfTwentyPlanets());
     EXPECT_FALSE(game.state.Game.Started());
     EXPECT_EQ(game.MenuTexts().first(), "Undo Load Game");
     game.Activate();

@@ -1,6 +1,5 @@
 // Whatever a game has become, it can be saved, and every window shows it alike.
 
-#include "dialogs/load_form.h"
 #include "saves/game_text.h"
 #include "tests/random_play.h"
 #include "tests/saves/sample_game.h"
@@ -64,18 +63,11 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
     ExpectSame(made, played);
 }
 
-/// Puts a game in force the way the load dialog does.
-void Load(const GameWindow& game, const GameState& loaded) {
-    game.Choose("LGame");
-    emit game.Find<LoadForm>("LoadForm")->GameLoaded(loaded);
-    game.Close("LoadForm");
-}
-
 TEST(ShowGame, ALoadedGameTakesThePlaceOfAnyOther) {
     GameWindow game;
     for (const GameState& loaded : {SampleGame(), GameOfTwentyPlanets(), SampleGame()}) {
-        Load(game, loaded);
-        EXPECT_TRUE(game.state == loaded);
+        game.Load(loaded);
+        EXPECT_EQ(*WriteGame(game.state), *WriteGame(loaded));
         GameWindow made(loaded);
         ExpectSame(game, made);
     }
@@ -122,7 +114,7 @@ TEST(ShowGame, OpenNotesShowTheLoadedTextForGood) {
     QTest::keyClicks(box, "old");
     GameState loaded = GameOfTwentyPlanets();
     loaded.NotesText = "new";
-    Load(game, loaded);
+    game.Load(loaded);
     QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(game.state.NotesText, "new");
     QTest::keyClicks(box, "er");

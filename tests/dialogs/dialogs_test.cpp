@@ -82,7 +82,7 @@ TEST_F(Dialogs, PastingNothingIntoTheNotesLeavesThemAsTheyAre) {
 }
 
 TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {
-    const TechForm form(&owner);
+    const TechForm form("TechForm", StandardChart(), &owner);
     const auto told = [&](const char* box) {
         return form.findChild<QLabel*>(box)->accessibleName();
     };
@@ -93,7 +93,7 @@ TEST_F(Dialogs, ABoxOfAChartTellsWhatItNeeds) {
 
 TEST_F(Dialogs, TextsOfAChartFitAndAClickAnywhereButOnTheLegendUnloadsIt) {
     for (const char* name : {"Label1(0)", "Label1(23)", "Label2", "TechForm2"}) {
-        const QPointer form(new TechForm2(&owner));
+        const QPointer form(new TechForm("TechForm2", ExpansionChart(), &owner));
         form->open();
         for (const QLabel* label : form->findChildren<QLabel*>()) {
             EXPECT_EQ(label->size().expandedTo(label->sizeHint()), label->size())

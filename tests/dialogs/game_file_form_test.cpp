@@ -1,5 +1,4 @@
-#include "dialogs/load_form.h"
-#include "dialogs/save_form.h"
+#include "dialogs/game_file_form.h"
 #include "saves/game_file.h"
 #include "tests/saves/sample_game.h"
 #include "tests/window_test.h"
@@ -23,6 +22,21 @@ protected:
         form = opened;
         form->show();
     }
+    GameFileForm* SaveForm() {
+        return new GameFileForm(
+            SaveDesign, [this](const QString& name) { return SaveGameFile(name, game); }, &owner);
+    }
+    GameFileForm* LoadForm() {
+        const auto load = [this](const QString& name) -> Outcome<> {
+            const Outcome<GameState> read = LoadGameFile(name);
+            if (!read) {
+                return Failure{read.Reason()};
+            }
+            loaded << name;
+            return {};
+        };
+        return new GameFileForm(LoadDesign, load, &owner);
+    }
     QLineEdit* Box() const { return form->findChild<QLineEdit*>("FileNam"); }
     void Press(const char* button) const {
         QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
@@ -32,13 +46,14 @@ protected:
     QWidget owner;
     GameState game = SampleGame();
     QPointer<GameFileForm> form;
+    QStringList loaded; ///< names of the files
 };
 
 TEST_F(GameFileForms, TheNameIsCompletedAndTheGameSaved) {
     for (const auto& [typed, used] :
          {std::pair{"savegame.ksm", "savegame.ksm"}, std::pair{"game1", "game1.ksm"},
           std::pair{"A.KSM", "A.KSM.ksm"}, std::pair{"", ".ksm"}}) {
-        Open(new SaveForm(game, &owner));
+        Open(SaveForm());
         EXPECT_EQ(Box()->text(), "savegame.ksm");
         Box()->setText(typed);
         Press("Sav");
@@ -50,9 +65,8 @@ TEST_F(GameFileForms, TheNameIsCompletedAndTheGameSaved) {
 TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
     QDir().mkdir("<b>.ksm");
     const std::tuple<GameFileForm*, const char*, const char*, const char*> failures[]{
-        {new SaveForm(game, &owner), "Sav", "Error Saving File",
-         "An error occured saving the file."},
-        {new LoadForm(&owner), "Loa", "Error Loading File", "An error occured loading the file."}};
+        {SaveForm(), "Sav", "Error Saving File", "An error occured saving the file."},
+        {LoadForm(), "Loa", "Error Loading File", "An error occured loading the file."}};
     for (const auto& [opened, button, title, text] : failures) {
         delete form;
         Open(opened);
@@ -69,11 +83,7 @@ TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
 TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
     SaveGameFile("first.ksm", GameState());
     SaveGameFile("second.ksm", game);
-    auto* load = new LoadForm(&owner);
-    Open(load);
-    QByteArrayList loaded;
-    QObject::connect(load, &LoadForm::GameLoaded,
-                     [&](const GameState& read) { loaded << *WriteGame(read); });
+    Open(LoadForm());
     auto* list = form->findChild<QListWidget*>("File1");
     QTest::keyClick(list, Qt::Key_Down);
     EXPECT_EQ(Box()->text(), "first.ksm");
@@ -84,29 +94,29 @@ TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
         EXPECT_EQ(AsRead(list->item(row)->toolTip()), list->item(row)->text());
         row == 1 ? QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place) : void();
     }
-    EXPECT_EQ(loaded, QByteArrayList{*WriteGame(game)});
+    EXPECT_EQ(loaded, QStringList("second.ksm"));
     EXPECT_TRUE(IsUnloaded(form));
 }
 
 TEST_F(GameFileForms, ReturnConfirmsOnceAndEscapeOrCancelSavesNothing) {
     for (const bool byKey : {true, false}) {
-        Open(new SaveForm(game, &owner));
+        Open(SaveForm());
         byKey ? QTest::keyClick(Box(), Qt::Key_Escape) : Press("Cance");
         EXPECT_TRUE(IsUnloaded(form));
     }
     EXPECT_TRUE(QDir().entryList(QDir::Files).empty());
     SaveGameFile("savegame.ksm", game);
     for (const char* control : {"FileNam", "File1", "Loa"}) {
-        Open(new LoadForm(&owner));
-        const QSignalSpy loaded(form, SIGNAL(GameLoaded(ksm::GameState)));
+        Open(LoadForm());
+        loaded.clear();
         QTest::keyClick(form->findChild<QWidget*>(control), Qt::Key_Return);
-        EXPECT_EQ(loaded.count(), 1) << control;
+        EXPECT_EQ(loaded, QStringList("savegame.ksm")) << control;
         EXPECT_TRUE(IsUnloaded(form)) << control;
     }
 }
 
 TEST_F(GameFileForms, TabGoesFromTheButtonsToListAndName) {
-    Open(new LoadForm(&owner));
+    Open(LoadForm());
     form->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     for (const char* control : {"Loa", "Cance", "File1", "FileNam", "Loa"}) {
@@ -116,7 +126,7 @@ TEST_F(GameFileForms, TabGoesFromTheButtonsToListAndName) {
 }
 
 TEST_F(GameFileForms, ClickingTheNameLeavesTheExtensionOnly) {
-    Open(new SaveForm(game, &owner));
+    Open(SaveForm());
     QTest::keyClick(Box(), Qt::Key_X);
     EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
     QTest::mouseClick(Box(), Qt::LeftButton);

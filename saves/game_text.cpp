@@ -1,20 +1,19 @@
+#include "saves/game_text.h"
+
 #include "economy/game_setup.h"
 #include "economy/turn_order.h"
 #include "economy/value_update.h"
+#include "planets/read_file.h"
 #include "saves/game_checks.h"
 #include "saves/game_members.h"
-#include "saves/game_text.h"
 #include "saves/json_reader.h"
-
-#include <QJsonDocument>
+#include "saves/json_writer.h"
 
 namespace ksm {
 
 namespace {
 
-Failure Damaged(const std::string& problem) {
-    return {"The saved game is damaged: " + problem};
-}
+Failure Damaged(const std::string& problem) { return {"The saved game is damaged: " + problem}; }
 
 void ComputeWhatFollows(Game& game) {
     for (PlayerRecord& player : game.Players) {
@@ -25,6 +24,19 @@ void ComputeWhatFollows(Game& game) {
 }
 
 } // namespace
+
+Outcome<QByteArray> WriteGame(const GameState& state, QJsonDocument::JsonFormat format) {
+    JsonWriter members;
+    GameMembers::Describe(members, state);
+    const QJsonObject file{
+        {"Format", GameFormat}, {"Version", GameFormatVersion}, {"Game", members.Result()}};
+    QByteArray bytes = QJsonDocument(file).toJson(format);
+    if (static_cast<std::uintmax_t>(bytes.size()) > LargestFile) {
+        return Failure{"The game is larger than 1 MiB, the most that a saved game can hold. "
+                       "Shorten the notes."};
+    }
+    return bytes;
+}
 
 Outcome<GameState> ReadGame(const QByteArray& bytes) {
     QJsonParseError error;
