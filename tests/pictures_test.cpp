@@ -24,7 +24,7 @@ struct Evening : GameWindow {
             QString("Fay the Unforgettable of Arden|<b>Bo</b>|Cleo & Co|Dora|Emil|"
                     "Hilde|Ivo|Gus the Incomparable of Elsewhere|Jana|Wil")
                 .split('|');
-        Move("PlayNumScroll", 11 - players);
+        SetPlayers(players);
         for (int player = 1; player <= players; ++player) {
             Race(player, static_cast<ksm::Race>((players + player) % RaceCount));
             Click("Enviro", player);
@@ -114,7 +114,7 @@ QImage DragInMidAir() {
     Evening evening(6);
     evening.Start();
     evening.Press(3);
-    evening.MoveOver(3, evening.Owner(5));
+    evening.MoveOver(evening.Owner(5));
     return Grab(evening.window, QRect(0, 0, 340, 220));
 }
 
@@ -140,7 +140,7 @@ QImage FocusRings() {
 
 QImage NameDialog() {
     Evening evening(2);
-    evening.Click("PlayerName", 2);
+    evening.Find("PlayerName", 2)->Activate();
     return Grab(*evening.Find<QWidget>("ColorSelectForm"));
 }
 

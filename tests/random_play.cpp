@@ -63,10 +63,10 @@ void RandomPlay::Drag() {
     game.Press(row);
     for (int move = Pick(1, 3); move > 0; --move) {
         target = game.Owner(Pick(0, game.state.Game.NumPlayers));
-        game.MoveOver(row, target);
+        game.MoveOver(target);
     }
     // Now and then on another planet, where nothing takes the marks of the drag away.
-    game.DropOn(row, Pick(1, 5) == 1 ? game.Row(Pick(0, BoardRowCount - 1)) : target);
+    game.DropOn(Pick(1, 5) == 1 ? game.Row(Pick(0, BoardRowCount - 1)) : target);
 }
 
 void RandomPlay::NameSomebody() {

@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocumentFragment>
+#include <QWheelEvent>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +26,25 @@ namespace ksm {
 /// Deletes the windows that were closed, as the event loop would.
 inline void DeleteClosed() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// In the pixels of the window that the platform knows.
+inline QPoint PlaceIn(const QWidget* control, QPoint place) {
+    return control->mapTo(control->window(), place);
+}
+inline QPoint Centre(const QWidget* control) {
+    return PlaceIn(control, control->rect().center());
+}
+inline QWindow* PlatformWindow(const QWidget* control) {
+    return control->window()->windowHandle();
+}
+
+/// A notch of the wheel; up is positive.
+inline void Turn(QWidget* control, int notches) {
+    QWheelEvent notch(QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)), {},
+                      QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(control, &notch);
 }
 
 template<typename Window>

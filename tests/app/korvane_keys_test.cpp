@@ -9,13 +9,11 @@ namespace {
 
 struct Keys : GameWindow {
     explicit Keys(int players = 6) {
-        Move("PlayNumScroll", 11 - players);
+        SetPlayers(players);
         Activate();
     }
 
     void Press(Qt::Key key) const { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
-    static std::string Focused() { return QApplication::focusWidget()->objectName().toStdString(); }
     /// The names of the controls that the key leads to, once round.
     std::string Round(Qt::Key key) {
         std::string names;

@@ -62,14 +62,14 @@ TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
         const auto* target = board.Find<QWidget>(row.target);
         board.Press(row.row);
         for (const int owner : row.over) {
-            board.MoveOver(row.row, board.Owner(owner));
+            board.MoveOver(board.Owner(owner));
         }
         auto* outline = board.Find<QWidget>("DragOutline");
         EXPECT_TRUE(outline->isVisible());
         EXPECT_TRUE(OnScreen(board.window) == Picture(board.window)) << "not painted anew";
         EXPECT_EQ(board.Colours(), row.during);
         const bool isPanel = target == board.Find<QWidget>("InvasionPic");
-        board.DropOn(row.row, target, isPanel ? QPoint(60, 177) : target->rect().center());
+        board.DropOn(target, isPanel ? QPoint(60, 177) : target->rect().center());
         EXPECT_FALSE(outline->isVisible());
         EXPECT_EQ(board.Colours(), row.after);
         EXPECT_EQ(board.Tag(0), row.firstTag);
@@ -97,11 +97,11 @@ TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
         SCOPED_TRACE(what);
         Board dragging;
         dragging.Press(0);
-        dragging.MoveOver(0, dragging.Owner(5));
+        dragging.MoveOver(dragging.Owner(5));
         happens(dragging);
         EXPECT_EQ(dragging.Find<QWidget>("DragOutline")->isVisible(), !endsDrag);
         EXPECT_EQ(dragging.Colours().find('R') == std::string::npos, endsDrag);
-        dragging.DropOn(0, dragging.Owner(6));
+        dragging.DropOn(dragging.Owner(6));
         EXPECT_EQ(dragging.state.Game.Planet(0).Owner, endsDrag ? NeutralOwner : 6);
 
         Board carrying;
