@@ -93,9 +93,15 @@ struct GameWindow {
         DropOn(Owner(owner));
     }
     /// Keyboard focus and shortcuts need the active window.
-    void Activate() {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    void Activate() { Activate(&window); }
+    static void Activate(QWidget* other) {
+        QCoreApplication::processEvents(); // whatever takes the focus away
+        other->activateWindow();
+        const auto isActive = [&] {
+            return QGuiApplication::focusWindow() == other->windowHandle() &&
+                   QApplication::activeWindow() == other;
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isActive));
     }
     void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
     static std::string Focused() { return QApplication::focusWidget()->objectName().toStdString(); }

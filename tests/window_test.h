@@ -39,12 +39,13 @@ inline QWindow* PlatformWindow(const QWidget* control) {
     return control->window()->windowHandle();
 }
 
-/// A notch of the wheel; up is positive.
-inline void Turn(QWidget* control, int notches) {
-    QWheelEvent notch(QPointF(5, 5), control->mapToGlobal(QPointF(5, 5)), {},
+/// A notch of the wheel over the control; up is positive.
+inline void Turn(const QWidget* control, int notches) {
+    QWheelEvent notch(Centre(control), control->mapToGlobal(control->rect().center()), {},
                       QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                       false);
-    QApplication::sendEvent(control, &notch);
+    QSpontaneKeyEvent::setSpontaneous(&notch);
+    qApp->notify(PlatformWindow(control), &notch);
 }
 
 template<typename Window>

@@ -54,12 +54,8 @@ TEST(PlanetList, ReadsALineAs) {
 }
 
 TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
-    std::string names;
-    const auto list = ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n");
-    for (const PlanetRecord& planet : *list) {
-        names += planet.Name + '|';
-    }
-    EXPECT_EQ(names, "A||B||C\n|");
+    const PlanetList list = *ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n");
+    EXPECT_EQ(list, (PlanetList{{"A"}, {""}, {"B", 1}, {""}, {"C\n"}}));
 }
 
 TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLineUpToTen) {
