@@ -93,7 +93,6 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
     EXPECT_EQ(RankText(*this, 2),
               "after Dora: equal influence, fewer resources\n"
               "before Player 6: equal influence and resources, lower player number");
-    EXPECT_EQ(RankText(*this, 4) + RankText(*this, 7), "") << "the game ends with place 6";
     Laws.OrlenHouseRules = true;
     TurnOrder(*this);
     EXPECT_EQ(RankText(*this, 3),

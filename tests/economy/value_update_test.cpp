@@ -39,12 +39,12 @@ struct ValueCase {
 
 const std::vector<ValueCase> ValueCases{
     {"nothing", [](Game&, PlayerRecord&) {}, {8, 5, 4, 10, 28, 28, 27, 30}},
-    {"Enviro Comp.",
-     [](Game&, PlayerRecord& four) { four.Enviro = true, four.SpaceDocks = 7; },
-     {8, 12, 4, 10, 28, 28, 27, 30}},
-    {"Pellam Tools",
-     [](Game&, PlayerRecord& four) { four.PellamTools = true; },
-     {12, 5, 4, 14, 27, 27, 26, 30}},
+    {"Enviro Comp., Pellam Tools",
+     [](Game&, PlayerRecord& four) {
+         four.Enviro = four.PellamTools = true;
+         four.SpaceDocks = 7;
+     },
+     {12, 12, 4, 14, 27, 27, 26, 30}},
     {"Micro Tech., a partner outside the game",
      [](Game& game, PlayerRecord& four) {
          four.Micro = true;
@@ -65,22 +65,14 @@ const std::vector<ValueCase> ValueCases{
          game.Planet(0).Owner = game.Planet(1).Owner = game.Planet(2).Owner = NeutralOwner;
      },
      {1, 2, 1, 2, 30, 30, 30, 30}},
-    {"Free Trade",
-     [](Game& game, PlayerRecord&) {
-         game.Laws.FreeTrade = true;
-         game.Cell(4, 1) = Agreement;
-     },
-     {8, 5, 4, 20, 28, 28, 27, 30}},
-    {"Orrun, for any agreements",
+    {"Free Trade, and Orrun, for any agreements",
      [](Game& game, PlayerRecord& four) {
+         game.Laws.FreeTrade = true;
          four.Race = Race::Orrun;
          game.Cell(1, 2) = game.Cell(3, 1) = Agreement;
      },
-     {8, 8, 4, 10, 28, 28, 27, 30}},
-    {"Altheran, for other planets than the home",
-     [](Game&, PlayerRecord& four) { four.Race = Race::Altheran; },
-     {8, 8, 4, 10, 28, 28, 27, 30}},
-    {"Altheran without the home",
+     {8, 8, 4, 15, 28, 28, 27, 30}},
+    {"Altheran, for other planets than the home, which it lost",
      [](Game& game, PlayerRecord& four) {
          four.Race = Race::Altheran;
          game.Planet(0).Owner = 10;
