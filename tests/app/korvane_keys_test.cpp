@@ -30,7 +30,9 @@ TEST(Keys, TabGoesFromGroupToGroupAndArrowsWithinOne) {
               "TradePlayer(1) ")
         << "nothing that the setup panel covers";
     game.Click("Enviro", 2);
+    EXPECT_EQ(game.window.centralWidget()->childAt(200, 7), game.Find<QWidget>("GameSetupPic"));
     game.Start();
+    EXPECT_EQ(game.window.centralWidget()->childAt(200, 7), game.Owner(AllPlanets));
     const std::pair<Qt::Key, std::string> rounds[]{
         {Qt::Key_Right, "PlayerName(1) PlayerName(2) PlayerName(3) "},
         {Qt::Key_Up, "PlayerName(1) PlayerName(3) PlayerName(2) "},

@@ -38,15 +38,6 @@ TEST(MainWindow, EveryFigureIsExplainedToItsPlayer) {
     }
 }
 
-TEST(Setup, NothingReachesWhatThePanelCoversUntilStart) {
-    GameWindow game;
-    QWidget* client = game.window.centralWidget();
-    EXPECT_EQ(client->childAt(200, 7), game.Find<QWidget>("GameSetupPic"));
-    EXPECT_FALSE(game.Owner(AllPlanets)->isEnabled()) << "nor does the keyboard";
-    game.Start();
-    EXPECT_EQ(client->childAt(200, 7), game.Owner(AllPlanets));
-}
-
 TEST(Setup, OnlyAnEntryTakenFromTheListChoosesARace) {
     GameWindow game;
     game.Activate();

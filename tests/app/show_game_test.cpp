@@ -130,8 +130,10 @@ TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
     game.Load("a.ksm");
     QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(game.state.NotesText, "new") << "the text's own steps begin anew";
+    EXPECT_TRUE(game.state.Game.Started());
     game.Activate();
     GameWindow::Undo();
+    EXPECT_FALSE(game.state.Game.Started()) << "a load can be taken back";
     EXPECT_EQ(box->toPlainText(), "old");
     EXPECT_EQ(game.state.NotesText, "old");
     GameWindow::Redo();

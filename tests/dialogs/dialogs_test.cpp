@@ -1,9 +1,7 @@
-#include "dialogs/tech_form.h"
 #include "tests/game_window.h"
 
 #include <QClipboard>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QPlainTextEdit>
 
@@ -69,21 +67,17 @@ TEST(Dialogs, ATabOrALineFeedInANameBecomesABlank) {
     EXPECT_EQ(game.state.Game.Player(3).ShortName, "a b c d\u00A0e\u200D");
 }
 
-TEST(Dialogs, TextsOfAChartFitAndAClickAnywhereButOnTheLegendUnloadsIt) {
-    QWidget owner;
+TEST(Dialogs, AClickAnywhereOnAChartButOnTheLegendUnloadsIt) {
+    const GameWindow game;
     for (const char* name : {"Label1(0)", "Label1(23)", "Label2", "TechForm2"}) {
-        const QPointer form(new TechForm2(&owner));
-        form->open();
-        for (const QLabel* label : form->findChildren<QLabel*>()) {
-            EXPECT_EQ(label->size().expandedTo(label->sizeHint()), label->size())
-                << label->text().toStdString();
-        }
-        auto* label = form->findChild<QLabel*>(name);
-        QWidget& place = label ? static_cast<QWidget&>(*label) : *form;
+        game.Choose("HTech");
+        const QPointer form(game.Find<QWidget>("TechForm2"));
+        auto* place = name == form->objectName() ? form.data() : game.Find<QWidget>(name);
         for (const auto button : {Qt::RightButton, Qt::LeftButton}) {
-            QTest::mouseClick(&place, button, {}, QPoint(12, 12));
+            QTest::mouseClick(form->windowHandle(), button, {}, PlaceIn(place, {12, 12}));
             EXPECT_EQ(IsUnloaded(form), button == Qt::LeftButton && name != QString("Label2"));
         }
+        form ? game.Close("TechForm2") : void();
     }
 }
 

@@ -42,6 +42,11 @@ TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesOnceAndEscapeNothing) {
     }
     EXPECT_EQ(Files().size(), 4) << "none of them twice, which would leave a copy";
     Open<SaveForm>(game);
+    QTest::keyClick(Box(), Qt::Key_X);
+    EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
+    QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, Centre(Box()));
+    QTest::keyClicks(Box(), "mine");
+    EXPECT_EQ(Box()->text(), "mine.ksm");
     QTest::mouseClick(form->findChild<QPushButton*>("Cance"), Qt::LeftButton);
     EXPECT_TRUE(IsUnloaded(form));
 }
@@ -86,16 +91,6 @@ TEST_F(GameFileForms, AFileIsPickedByArrowClickOrDoubleClick) {
     }
     EXPECT_EQ(loaded, QByteArrayList{*WriteGame(game)});
     EXPECT_TRUE(IsUnloaded(form));
-}
-
-TEST_F(GameFileForms, ClickingTheNameLeavesTheExtensionOnly) {
-    Open<SaveForm>(game);
-    QTest::keyClick(Box(), Qt::Key_X);
-    EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
-    QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, Centre(Box()));
-    QTest::keyClicks(Box(), "mine");
-    EXPECT_EQ(Box()->text(), "mine.ksm");
-    delete form;
 }
 
 } // namespace

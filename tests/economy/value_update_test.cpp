@@ -112,18 +112,15 @@ TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
             }
             EXPECT_EQ(sum, ValueOf(game, 4, figure)) << index << " explained";
         }
+        EXPECT_EQ(game.Player(NeutralOwner).Figures.Resources, 0);
         const Game once = game;
         UpdateValues(game);
         EXPECT_EQ(game, once) << "nothing is left over from an earlier run";
     }
-}
-
-TEST(UpdateValues, CountsTheUnownedPlanetsAndTheAgreements) {
     Game game = TwoTraders();
     game.Cell(1, 10) = Agreement;
     UpdateValues(game);
     EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, 1);
-    EXPECT_EQ(game.Player(NeutralOwner).Figures.Resources, 0);
     EXPECT_EQ(game.TradeCount, 2);
 }
 

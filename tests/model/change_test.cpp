@@ -22,6 +22,17 @@ Game NamedGame() {
     return g;
 }
 
+TEST(PlayerLabels, NumberWhoHasNoName) {
+    const Game game;
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        const std::string number = std::to_string(player);
+        const std::string blank = player < 10 ? " " : "";
+        EXPECT_EQ(PlayerCaption(game, player), "Player" + blank + number);
+        EXPECT_EQ(game.Player(player).ShortName, "PL" + blank + number);
+        EXPECT_EQ(OwnerCaption(game, player), "Player " + number);
+    }
+}
+
 TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
     const std::pair<void (*)(Game&), const char*> changes[]{
         {[](G& g) { SetPlayerCount(g, 8); }, "8 players"},

@@ -49,7 +49,9 @@ TEST(BoardListing, ListsAnewOnlyAnOwnerWhoCanBeSeen) {
         GameState state = BoardGame(101, owner, 5);
         state.Game.StartTime = started ? 1 : 0;
         state.Game.NumPlayers = players;
+        state.View.MarkedOwner = 3;
         RelistBoard(state);
+        EXPECT_EQ(state.View.MarkedOwner, NoOwner);
         EXPECT_EQ(state.View.BoardPlayer, listed) << owner << " of " << players;
     }
 }

@@ -90,9 +90,8 @@ TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
 }
 
 TEST(PlanetList, WithoutAPlanetOrAFileIsAProblem) {
-    for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'feeds\nA\r"}) {
-        EXPECT_EQ(ReadPlanetList(text).Reason(), "no planet (allowed: 1 to 101 planets)");
-    }
+    EXPECT_EQ(ReadPlanetList("\xEF\xBB\xBF'c\r\n'c").Reason(),
+              "no planet (allowed: 1 to 101 planets)");
     EXPECT_EQ(ReadPlanetList("'line feeds\nA,1\n").Reason(),
               "no planet, since no line ends with CR LF (allowed: 1 to 101 planets)");
     EXPECT_EQ(ReadPlanetListFile("/no/such").Reason(),

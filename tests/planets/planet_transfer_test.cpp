@@ -45,16 +45,15 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
 
 TEST(PlanetText, SaysWhoseThePlanetIsAndWhatItBrings) {
     GameState state = GameOfTwentyPlanets();
-    state.Game.Planet(18) = {"Ith", 3, 2, Specialty::Green, 10};
+    state.Game.Player(10).PellamTools = true;
+    state.Game.Planet(18) = {"Ith", 1, 2, Specialty::Green, 10};
     state.Game.Planet(19) = {"Far", 0, 4};
     EXPECT_EQ(OwnerText(state.Game, 18), "Ith belongs to Player 10");
     EXPECT_EQ(OwnerText(state.Game, 19), "Far belongs to nobody");
-    const std::string green = "\nmakes green technology cheaper by its resources";
-    EXPECT_EQ(PlanetFiguresText(state.Game, 18), "3 resources, 2 influence" + green);
-    state.Game.Player(10).PellamTools = true;
-    state.Game.Planet(18).Resources = 1;
-    EXPECT_EQ(PlanetFiguresText(state.Game, 18),
-              "1 resource, 2 influence" + green + " and one more (Pellam Tools)");
+    EXPECT_EQ(
+        PlanetFiguresText(state.Game, 18),
+        "1 resource, 2 influence\nmakes green technology cheaper by its resources and one more "
+        "(Pellam Tools)");
     EXPECT_EQ(PlanetFiguresText(state.Game, 19), "0 resources, 4 influence");
     EXPECT_EQ(OwnerText(state.Game, 20) + PlanetFiguresText(state.Game, 20), "");
 }

@@ -101,9 +101,9 @@ TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
     Game game = NamedPlayers();
     game.Cell(3, 10) = game.Cell(1, 3) = Agreement;
     game.IndepFirst = game.IndepSecond = 3; // a pair that binds nobody
-    EXPECT_EQ(TradeText(game, 2), "P2 has no Trade Agreement");
     EXPECT_EQ(TradeText(game, 3), "P3 trades with P1, P10");
     game.IndepSecond = 4;
+    EXPECT_EQ(TradeText(game, 2), "P2 has no Trade Agreement");
     game.Laws.FreeTrade = true;
     EXPECT_EQ(TradeText(game, 3),
               "P3 trades with P1, P10\nFree Trade: five credits for each partner\n"
