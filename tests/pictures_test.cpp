@@ -43,10 +43,6 @@ struct Evening : GameWindow {
         SetPlanets(game.Game, *ReadPlanetListFile(DELIVERED_PLANET_LIST));
         return game;
     }
-    void Trade(int one, int other) const {
-        Click("TradePlayer", one);
-        Click("TradePlayer", other);
-    }
     void Play() {
         const int players = state.Game.NumPlayers;
         Start();
@@ -57,12 +53,14 @@ struct Evening : GameWindow {
         for (int player = 1; player <= players; ++player) {
             for (int other = player + 1; other <= players; other += 3) {
                 Click("AddTAbutton");
-                other % 2 == 0 ? Trade(other, player) : Trade(player, other);
+                Click("TradePlayer", other % 2 == 0 ? other : player);
+                Click("TradePlayer", other % 2 == 0 ? player : other);
             }
         }
         Choose("TFree");
         Choose("Tres");
-        Trade(1, std::min(players, 8));
+        Click("TradePlayer", 1);
+        Click("TradePlayer", std::min(players, 8));
         Click("InvasionPlayer", 1);
     }
 };

@@ -41,13 +41,9 @@ void RandomPlay::Step() {
 
 void RandomPlay::SetUp() {
     const int kind = Pick(1, 60);
-    if (kind == 1) {
-        game.Start();
-    } else if (kind <= 20) {
-        game.Move("PlayNumScroll", Pick(0, 10));
-    } else {
-        game.Race(Player(), static_cast<Race>(Pick(0, RaceCount - 1)));
-    }
+    kind == 1    ? game.Start()
+    : kind <= 20 ? game.Move("PlayNumScroll", Pick(0, 10))
+                 : game.Race(Player(), static_cast<Race>(Pick(0, RaceCount - 1)));
 }
 
 void RandomPlay::Look() {

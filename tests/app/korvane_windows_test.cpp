@@ -23,12 +23,12 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
     } rows[]{
         {"LGame", "LoadForm", "Load Game", "Loa", Qt::Key_F1, {3, 44}, true},
         {"SGame", "SaveForm", "Save Game", "Sav", Qt::Key_F2, {3, 44}, true},
-        {"Stech", "TechForm", "Flowchart (Standard)", nullptr, Qt::Key_F5, {0, 0}, true},
-        {"HTech", "TechForm2", "Flowchart (Corrin's End)", nullptr, Qt::Key_F6, {0, 0}, true},
-        {"MenuTechMod", "TechModForm", "Tech cost modifiers", nullptr, {}, {204, 70}, true},
+        {"Stech", "TechForm", "Flowchart (Standard)", "", Qt::Key_F5, {0, 0}, true},
+        {"HTech", "TechForm2", "Flowchart (Corrin's End)", "", Qt::Key_F6, {0, 0}, true},
+        {"MenuTechMod", "TechModForm", "Tech cost modifiers", "", {}, {204, 70}, true},
         {"About", "AboutForm", "About Korvane Astrell Manager", "Command1", {}, {142, 79}, true},
         {"Notes", "NoteForm", "Notes", "Aant", {}, {560, 220}, false},
-        {"Dice", "DiceForm", "Dice Roller", nullptr, {}, {560, 33}, false}};
+        {"Dice", "DiceForm", "Dice Roller", "", {}, {560, 33}, false}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.form);
         GameWindow game;
@@ -37,9 +37,7 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
         EXPECT_TRUE(form->windowTitle().endsWith(row.title));
         EXPECT_EQ(form->pos() - game.window.pos(), row.place);
         EXPECT_TRUE(form->isVisible() && form->isModal() == row.isModal);
-        if (row.focus) {
-            EXPECT_EQ(form->focusWidget()->objectName(), row.focus);
-        }
+        EXPECT_EQ(form->focusWidget() ? form->focusWidget()->objectName() : "", row.focus);
         QTest::keyClick(form->windowHandle(), Qt::Key_Escape);
         EXPECT_EQ(IsUnloaded(form), row.isModal);
         if (form) {
@@ -68,9 +66,7 @@ TEST(Windows, SayWhatTheirControlsAre) {
         {"MenuTechMod", "VScroll1(2)", "Red cost modifier"},
         {"MenuTechMod", "TechModLabel(3)", "Yellow cost modifier: 0"},
         {"Dice", "Scroll", "Number of dice"},
-        {"Dice", "Label1(6)", "Dice place 7"},
         {"Notes", "Aant", "Notes"},
-        {"LGame", "File1", "Saved games"},
         {"SGame", "FileNam", "Filename"},
         {"About", "Text1", "Official Korvane Astrell Homepage"},
         {"Stech", "Label1(2)",

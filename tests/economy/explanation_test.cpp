@@ -40,19 +40,14 @@ TEST_F(Explanations, NameWhatAFigureIsMadeOf) {
     BlueModifier = 14;
     Planet(1).Resources = 40;
     Cell(1, 2) = Agreement;
-    EXPECT_EQ(Text(Figure::Planets), "Planets 3 = 1 Quessin\n+ 1 Ith\n+ 1 Veran");
     EXPECT_EQ(Text(Resources),
               "Resources 46 = 2 Quessin\n+ 40 Ith\n+ 1 Veran\n+ 3 Pellam Tools (3 planets)");
     EXPECT_EQ(Text(Influence), "Influence 9 = 1 Quessin\n+ 2 Ith\n+ 4 Enviro Comp. (space docks)\n"
                                "+ 2 Orrun (agreements in play)");
-    EXPECT_EQ(Text(RedCost),
-              "Red cost 30 = 30 base cost of Orrun\n- 2 Quessin\n- 1 Pellam Tools (1 planet)\n"
-              "+ 3 Tech Modifiers");
     EXPECT_EQ(Text(BlueCost),
               "Blue cost -1 = 30 base cost of Orrun\n- 40 Ith\n- 1 Pellam Tools (1 planet)\n"
               "+ 11 (the discount is limited to the base cost)\n"
               "- 1 Tech Modifiers");
-    EXPECT_EQ(Text(Credits, 10), "Credits 4 = 1 resource\n+ 3 planets of Dora");
     NumPlayers = 9;
     EXPECT_EQ(ExplanationText(*this, 4, Credits),
               "Credits 53, computed for another number of players");
@@ -78,9 +73,7 @@ TEST_F(Explanations, NameWhatAFigureIsMadeOf) {
 
 TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
     EXPECT_EQ(DockText(*this, 4), "Space Docks 1 would count as influence with Enviro Comp.");
-    dora.Enviro = true;
-    EXPECT_EQ(DockText(*this, 4), "Space Docks 1 count as influence");
-    Laws.LabourUnion = true;
+    dora.Enviro = Laws.LabourUnion = true;
     EXPECT_EQ(DockText(*this, 4), "Space Docks 1 count as resources (Labour Union)");
     for (const auto& [player, influence, resources] : {std::tuple{4, 9, 5}, {5, 9, 2}, {6, 9, 2}}) {
         Player(player).Figures.Influence = influence;

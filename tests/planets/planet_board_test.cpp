@@ -101,25 +101,16 @@ TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
             const bool ends = byMouse ? endsDrag : endsCarrying;
             GameWindow board(InPlay());
             board.Activate();
-            if (byMouse) {
-                board.Press(0);
-                board.MoveOver(board.Owner(1));
-            } else {
-                board.Row(0)->setFocus();
-                board.Key(Qt::Key_Return);
-                board.Key(Qt::Key_Down);
-            }
+            board.Row(0)->setFocus();
+            byMouse ? board.Press(0) : board.Key(Qt::Key_Return);
+            byMouse ? board.MoveOver(board.Owner(1)) : board.Key(Qt::Key_Down);
             EXPECT_EQ(Colours(board), ".R.....YR.");
             happens(board);
             QCoreApplication::processEvents();
             EXPECT_EQ(Colours(board).find('R') == std::string::npos, ends);
             const QString heading = board.Find("InvasionPlanet(0)")->Heading();
             EXPECT_EQ(heading.contains(", over Player 1"), !byMouse && !ends);
-            if (byMouse) {
-                board.DropOn(board.Owner(1));
-            } else {
-                QTest::keyClick(board.Row(0), Qt::Key_Return);
-            }
+            byMouse ? board.DropOn(board.Owner(1)) : QTest::keyClick(board.Row(0), Qt::Key_Return);
             EXPECT_EQ(board.state.Game.Planet(0).Owner, ends ? NeutralOwner : 1);
         }
     }

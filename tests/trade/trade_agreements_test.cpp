@@ -46,7 +46,6 @@ using enum TradeMode;
 constexpr auto NotAllowed = "P7 and P2 are not allowed to trade with eachother";
 const std::vector<ClickCase> ClickCases{
     {{3}, "\r\nPress Add to make a Trade Agreement", Idle},
-    {{Add}, "\r\nSelect first player...", AddFirst},
     {{Add, 3, 3}, "P3 makes Trade Agreement with...", AddPartner},
     {{Add, 3, Add}, "P3 makes Trade Agreement with...", AddPartner},
     {{Add, 3, 5}, "P5 and P3 make a TA", Idle, {{3, 5}}},
@@ -55,10 +54,9 @@ const std::vector<ClickCase> ClickCases{
     {{Add, 3, 5, Remove}, "\r\nSelect first player...", RemoveFirst, {{3, 5}}},
     {{Add, 3, 5, Remove, 5, 5}, "P5 breaks Trade Agreement with...", RemovePartner, {{3, 5}}},
     {{Add, 3, 5, Remove, 5, 3}, "P3 and P5 break their TA", Idle},
-    {{Add, 3, 10, Remove, 3, 10}, "P10 and P3 break their TA", Idle},
     {{Add, 3, 5, Remove, 2, 4}, "P4 & P2 don't have a TA to break", Idle, {{3, 5}}},
+    {{Add}, "\r\nSelect first player...", AddFirst},
     {{Tres}, "Select First Player...", IndependenceFirst},
-    {{Tres, 2}, "P2 is not allowed to trade with...", IndependenceSecond},
     {{Tres, 2, 7, Add, 7, 2}, "P2 and P7 are not allowed to trade with eachother", Idle},
     {{Add, 7, 2, Tres, 2, 7}, NotAllowed, Idle},
     {{TRestr}, "\r\nTRADE RESTRICTIONS!", Idle},
