@@ -25,7 +25,8 @@ inline GameState GameOfTwentyPlanets() {
     return state;
 }
 
-/// The window as a player meets it; controls are found by their names.
+/// The window as a player meets it; controls are found by their names. What a hand does goes to the
+/// platform's window under it, where grabs, enter, leave and focus come about.
 struct GameWindow {
     GameState state;
     Korvane window;
@@ -50,7 +51,9 @@ struct GameWindow {
         return Find(array, index)->Caption().toStdString();
     }
 
-    void Click(QWidget* control) const { QTest::mouseClick(control, Qt::LeftButton); }
+    void Click(QWidget* control) const {
+        QTest::mouseClick(PlatformWindow(control), Qt::LeftButton, {}, Centre(control));
+    }
     void Click(const char* name) const { Click(Find<QWidget>(name)); }
     void Click(const char* array, int index) const { Click(Find<QWidget>(array, index)); }
     void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
@@ -58,6 +61,7 @@ struct GameWindow {
     void Move(const char* bars, int index, int value) const {
         Find<QScrollBar>(bars, index)->setValue(value);
     }
+    void SetPlayers(int players) const { Move("PlayNumScroll", 11 - players); }
     void Race(int player, ksm::Race race) const {
         emit Find<QComboBox>("Race", player)->activated(static_cast<int>(race));
     }
@@ -74,34 +78,49 @@ struct GameWindow {
         Find<QWidget>(dialog)->close();
         DeleteClosed();
     }
+    void Load(const char* file) const {
+        Choose("LGame");
+        Find<QLineEdit>("FileNam")->setText(file);
+        Click("Loa");
+        DeleteClosed();
+    }
 
     QWidget* Row(int row) const { return Find<QWidget>("InvasionPlanet", row); }
     QWidget* Owner(int owner) const { return Find<QWidget>("InvasionPlayer", owner); }
-    void Press(int row) const { QTest::mousePress(Row(row), Qt::LeftButton, {}, QPoint(3, 3)); }
-    /// With the button held, as the platform reports it.
-    void MoveOver(int row, const QWidget* target) const {
-        const QPoint place = target->mapToGlobal(target->rect().center());
-        QMouseEvent move(QEvent::MouseMove, Row(row)->mapFromGlobal(place), place, Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(Row(row), &move);
+    void Press(int row) const {
+        QTest::mousePress(PlatformWindow(Row(row)), Qt::LeftButton, {}, PlaceIn(Row(row), {3, 3}));
     }
-    void DropOn(int row, const QWidget* target) const {
-        DropOn(row, target, target->rect().center());
+    void MoveOver(const QWidget* target) const {
+        QTest::mouseMove(PlatformWindow(target), Centre(target));
     }
-    void DropOn(int row, const QWidget* target, QPoint place) const {
-        QTest::mouseRelease(Row(row), Qt::LeftButton, {},
-                            Row(row)->mapFromGlobal(target->mapToGlobal(place)));
+    void DropOn(const QWidget* target) const { DropOn(target, target->rect().center()); }
+    void DropOn(const QWidget* target, QPoint place) const {
+        QTest::mouseRelease(PlatformWindow(target), Qt::LeftButton, {}, PlaceIn(target, place));
     }
     void Drag(int row, int owner) const {
         Press(row);
-        MoveOver(row, Owner(owner));
-        DropOn(row, Owner(owner));
+        MoveOver(Owner(owner));
+        DropOn(Owner(owner));
     }
     /// Keyboard focus and shortcuts need the active window.
-    void Activate() {
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    void Activate() { Activate(&window); }
+    static void Activate(QWidget* other) {
+        QCoreApplication::processEvents(); // whatever takes the focus away
+        other->activateWindow();
+        const auto isActive = [&] {
+            return QGuiApplication::focusWindow() == other->windowHandle() &&
+                   QApplication::activeWindow() == other;
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isActive));
     }
+    void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
+    static std::string Focused() { return QApplication::focusWidget()->objectName().toStdString(); }
+    /// In whichever window has the focus.
+    static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+    }
+    static void Undo() { Key(Qt::Key_Z, Qt::ControlModifier); }
+    static void Redo() { Key(Qt::Key_Y, Qt::ControlModifier); }
     void Start() const { Click("StartGameButton"); }
 };
 

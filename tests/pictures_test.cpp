@@ -25,7 +25,7 @@ struct Evening : GameWindow {
             QString("Fay the Unforgettable of Arden|<b>Bo</b>|Cleo & Co|Dora|Emil|"
                     "Hilde|Ivo|Gus the Incomparable of Elsewhere|Jana|Wil")
                 .split('|');
-        Move("PlayNumScroll", 11 - players);
+        SetPlayers(players);
         for (int player = 1; player <= players; ++player) {
             Race(player, static_cast<ksm::Race>((players + player) % RaceCount));
             Click("Enviro", player);
@@ -44,10 +44,6 @@ struct Evening : GameWindow {
         SetPlanets(game.Game, *ReadPlanetListFile(DELIVERED_PLANET_LIST));
         return game;
     }
-    void Trade(int one, int other) const {
-        Click("TradePlayer", one);
-        Click("TradePlayer", other);
-    }
     void Play() {
         const int players = state.Game.NumPlayers;
         Start();
@@ -58,12 +54,14 @@ struct Evening : GameWindow {
         for (int player = 1; player <= players; ++player) {
             for (int other = player + 1; other <= players; other += 3) {
                 Click("AddTAbutton");
-                other % 2 == 0 ? Trade(other, player) : Trade(player, other);
+                Click("TradePlayer", other % 2 == 0 ? other : player);
+                Click("TradePlayer", other % 2 == 0 ? player : other);
             }
         }
         Choose("TFree");
         Choose("Tres");
-        Trade(1, std::min(players, 8));
+        Click("TradePlayer", 1);
+        Click("TradePlayer", std::min(players, 8));
         Click("InvasionPlayer", 1);
     }
 };
@@ -115,7 +113,7 @@ QImage DragInMidAir() {
     Evening evening(6);
     evening.Start();
     evening.Press(3);
-    evening.MoveOver(3, evening.Owner(5));
+    evening.MoveOver(evening.Owner(5));
     return Grab(evening.window, QRect(0, 0, 340, 220));
 }
 
@@ -141,7 +139,7 @@ QImage FocusRings() {
 
 QImage NameDialog() {
     Evening evening(2);
-    evening.Click("PlayerName", 2);
+    evening.Find("PlayerName", 2)->Activate();
     return Grab(*evening.Find<QWidget>("ColorSelectForm"));
 }
 

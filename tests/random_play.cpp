@@ -41,13 +41,9 @@ void RandomPlay::Step() {
 
 void RandomPlay::SetUp() {
     const int kind = Pick(1, 60);
-    if (kind == 1) {
-        game.Start();
-    } else if (kind <= 20) {
-        game.Move("PlayNumScroll", Pick(0, 10));
-    } else {
-        game.Race(Player(), static_cast<Race>(Pick(0, RaceCount - 1)));
-    }
+    kind == 1    ? game.Start()
+    : kind <= 20 ? game.Move("PlayNumScroll", Pick(0, 10))
+                 : game.Race(Player(), static_cast<Race>(Pick(0, RaceCount - 1)));
 }
 
 void RandomPlay::Look() {
@@ -63,10 +59,10 @@ void RandomPlay::Drag() {
     game.Press(row);
     for (int move = Pick(1, 3); move > 0; --move) {
         target = game.Owner(Pick(0, game.state.Game.NumPlayers));
-        game.MoveOver(row, target);
+        game.MoveOver(target);
     }
     // Now and then on another planet, where nothing takes the marks of the drag away.
-    game.DropOn(row, Pick(1, 5) == 1 ? game.Row(Pick(0, BoardRowCount - 1)) : target);
+    game.DropOn(Pick(1, 5) == 1 ? game.Row(Pick(0, BoardRowCount - 1)) : target);
 }
 
 void RandomPlay::NameSomebody() {

@@ -17,6 +17,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocumentFragment>
+#include <QWheelEvent>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +27,26 @@ namespace ksm {
 /// Deletes the windows that were closed, as the event loop would.
 inline void DeleteClosed() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// In the pixels of the window that the platform knows.
+inline QPoint PlaceIn(const QWidget* control, QPoint place) {
+    return control->mapTo(control->window(), place);
+}
+inline QPoint Centre(const QWidget* control) {
+    return PlaceIn(control, control->rect().center());
+}
+inline QWindow* PlatformWindow(const QWidget* control) {
+    return control->window()->windowHandle();
+}
+
+/// A notch of the wheel over the control; up is positive.
+inline void Turn(const QWidget* control, int notches) {
+    QWheelEvent notch(Centre(control), control->mapToGlobal(control->rect().center()), {},
+                      QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&notch);
+    qApp->notify(PlatformWindow(control), &notch);
 }
 
 template<typename Window>

@@ -7,47 +7,33 @@
 namespace ksm {
 namespace {
 
-struct Keys : GameWindow {
-    explicit Keys(int players = 6) {
-        Move("PlayNumScroll", 11 - players);
-        Activate();
-    }
-
-    void Press(Qt::Key key) const { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
-    static std::string Focused() { return QApplication::focusWidget()->objectName().toStdString(); }
-    /// The names of the controls that the key leads to, once round.
-    std::string Round(Qt::Key key) {
-        std::string names;
-        do {
-            names += Focused() + ' ';
-            Press(key);
-            EXPECT_TRUE(OnScreen(window) == Picture(window))
-                << "the focus was not painted anew: " << Focused();
-        } while (names.size() < 1000 && names.find(Focused()) == std::string::npos);
-        return names;
-    }
-};
-
-TEST(Keys, TabGoesFromGroupToGroup) {
-    Keys game(2);
-    game.Focus("PlayNumScroll");
-    EXPECT_EQ(game.Round(Qt::Key_Tab),
-              "PlayNumScroll OptionNormal StartGameButton PlayerName(1) Race(1) DockScroll(1) "
-              "Enviro(1) Race(2) Enviro(2) AddTAbutton RemoveTAButton TradePlayer(1) ")
-        << "nothing that the setup panel covers";
-    EXPECT_EQ(game.Round(Qt::Key_Backtab),
-              "PlayNumScroll TradePlayer(1) RemoveTAButton AddTAbutton Enviro(2) Race(2) Enviro(1) "
-              "DockScroll(1) Race(1) PlayerName(1) StartGameButton OptionNormal ");
-    game.Start();
-    game.Focus("PlayerName(1)");
-    EXPECT_EQ(game.Round(Qt::Key_Tab),
-              "PlayerName(1) DockScroll(1) Enviro(1) Enviro(2) InvasionPlayer(20) "
-              "InvasionPlanet(0) PlanetScroller AddTAbutton RemoveTAButton TradePlayer(1) ");
+/// The names of the controls that the key leads to, once round.
+std::string Round(GameWindow& game, Qt::Key key) {
+    std::string names;
+    do {
+        names += game.Focused() + ' ';
+        game.Key(key);
+        EXPECT_TRUE(OnScreen(game.window) == Picture(game.window))
+            << "the focus was not painted anew: " << game.Focused();
+    } while (names.size() < 1000 && names.find(game.Focused()) == std::string::npos);
+    return names;
 }
 
-TEST(Keys, ArrowsGoRoundInAGroupAndTabComesBackToWhereTheyWere) {
-    const std::pair<Qt::Key, std::string> rows[]{
+TEST(Keys, TabGoesFromGroupToGroupAndArrowsWithinOne) {
+    GameWindow game;
+    game.SetPlayers(3);
+    game.Activate();
+    game.Focus("PlayNumScroll");
+    EXPECT_EQ(Round(game, Qt::Key_Tab),
+              "PlayNumScroll OptionNormal StartGameButton PlayerName(1) Race(1) DockScroll(1) "
+              "Enviro(1) Race(2) Enviro(2) Race(3) Enviro(3) AddTAbutton RemoveTAButton "
+              "TradePlayer(1) ")
+        << "nothing that the setup panel covers";
+    game.Click("Enviro", 2);
+    EXPECT_EQ(game.window.centralWidget()->childAt(200, 7), game.Find<QWidget>("GameSetupPic"));
+    game.Start();
+    EXPECT_EQ(game.window.centralWidget()->childAt(200, 7), game.Owner(AllPlanets));
+    const std::pair<Qt::Key, std::string> rounds[]{
         {Qt::Key_Right, "PlayerName(1) PlayerName(2) PlayerName(3) "},
         {Qt::Key_Up, "PlayerName(1) PlayerName(3) PlayerName(2) "},
         {Qt::Key_Left, "DockScroll(2) DockScroll(1) DockScroll(3) "},
@@ -56,61 +42,63 @@ TEST(Keys, ArrowsGoRoundInAGroupAndTabComesBackToWhereTheyWere) {
         {Qt::Key_Left, "TradePlayer(3) TradePlayer(2) TradePlayer(1) "},
         {Qt::Key_Down, "InvasionPlayer(3) InvasionPlayer(20) InvasionPlayer(0) InvasionPlayer(1) "
                        "InvasionPlayer(2) "}};
-    Keys game(3);
-    game.Click("Enviro", 2);
-    game.Start();
-    for (const auto& [key, names] : rows) {
+    for (const auto& [key, names] : rounds) {
         game.Focus(names.substr(0, names.find(' ')).c_str());
-        EXPECT_EQ(game.Round(key), names);
-        game.Press(key);
+        EXPECT_EQ(Round(game, key), names);
+        game.Key(key);
         const std::string left = game.Focused();
-        game.Press(Qt::Key_Tab);
-        game.Press(Qt::Key_Backtab);
-        EXPECT_EQ(game.Focused(), left);
+        game.Key(Qt::Key_Tab);
+        game.Key(Qt::Key_Backtab);
+        EXPECT_EQ(game.Focused(), left) << "Tab comes back to where the arrows were";
     }
     game.Focus("InvasionPlanet(11)");
-    game.Press(Qt::Key_Down);
+    game.Key(Qt::Key_Down);
     EXPECT_EQ(game.Focused(), "InvasionPlanet(0)");
+    EXPECT_EQ(Round(game, Qt::Key_Backtab),
+              "InvasionPlanet(0) InvasionPlayer(20) Enviro(3) PellamTools(2) Enviro(1) "
+              "DockScroll(1) PlayerName(3) TradePlayer(2) RemoveTAButton AddTAbutton "
+              "PlanetScroller ");
 }
 
 TEST(Keys, ReturnDoesWhatSpaceDoes) {
     for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
-        Keys game;
+        GameWindow game;
+        game.Activate();
         for (const char* control :
              {"Enviro(2)", "AddTAbutton", "TradePlayer(2)", "StartGameButton"}) {
             game.Focus(control);
-            game.Press(key);
+            game.Key(key);
         }
         EXPECT_TRUE(game.state.Game.Player(2).Enviro);
         EXPECT_EQ(game.state.Game.TradeMode, TradeMode::AddPartner);
         EXPECT_TRUE(game.state.Game.Started());
+        EXPECT_EQ(game.Focused(), "") << "no neighbour of the button that went gets the focus";
     }
 }
 
 TEST(Keys, ARaceBoxPassesOnWhatTheMainWindowNeeds) {
-    Keys game;
+    GameWindow game;
+    game.Activate();
     game.Click("Enviro", 1);
     game.Focus("Race(2)");
-    QTest::keyClicks(QApplication::focusWidget(), "x");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    game.Key(Qt::Key_X);
+    game.Undo();
     EXPECT_FALSE(game.state.Game.Player(1).Enviro);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_X, Qt::ControlModifier);
+    game.Key(Qt::Key_X, Qt::ControlModifier);
     EXPECT_FALSE(game.window.isVisible());
 }
 
 TEST(Keys, OfTheMainWindowWorkBesideIt) {
     for (const auto& [item, form] :
          {std::pair{"Dice", "DiceForm"}, std::pair{"Notes", "NoteForm"}}) {
-        Keys game;
+        GameWindow game;
         game.Choose(item);
         auto* window = game.Find<QWidget>(form);
-        const auto isActive = [&] { return QApplication::activeWindow() == window; };
-        ASSERT_TRUE(QTest::qWaitFor(isActive));
-        game.Press(Qt::Key_F5);
+        game.Activate(window);
+        game.Key(Qt::Key_F5);
         game.Close("TechForm");
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor(isActive));
-        QTest::keyClick(window, Qt::Key_L, Qt::AltModifier);
+        game.Activate(window);
+        game.Key(Qt::Key_L, Qt::AltModifier);
         auto* menu = game.Find<QMenu>("MenuLaws");
         EXPECT_TRUE(menu->isVisible()) << form;
         menu->close();

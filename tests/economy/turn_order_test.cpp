@@ -18,28 +18,20 @@ std::string Order(Game& game) {
 TEST(TurnOrder, RanksByInfluenceThenByResourcesThenByNumber) {
     Game game;
     for (const auto& [player, influence, resources] :
-         {std::tuple{1, 5, 4}, {2, 9, 2}, {3, 9, 6}, {10, 5, 4}}) {
+         {std::tuple{1, -1, 4}, {2, 9, 2}, {3, 9, 6}, {4, 5, 4}, {10, 5, 4}}) {
         game.Player(player).Figures.Influence = influence;
         game.Player(player).Figures.Resources = resources;
     }
     game.Player(10).Name = "Jo";
-    EXPECT_EQ(Order(game), "3 2 1 10 4 5 6 7 8 9 ");
+    game.Player(5).Race = game.Player(10).Race = Race::Dravik; // italic without an agreement
+    game.Player(6).Race = Race::Orrun;
+    game.Cell(10, 4) = Agreement;
+    game.NumPlayers = 2;
+    EXPECT_EQ(Order(game), "3 2 4 10 5/ 6 7 8 9 1 ") << "slots outside the game are ranked, too";
     EXPECT_EQ(game.TurnOrderRows[3], (TurnOrderRow{10, "Jo", 4, 5}));
     game.Laws.OrlenHouseRules = true;
-    EXPECT_EQ(Order(game), "2 3 1 10 4 5 6 7 8 9 ");
-    game.NumPlayers = 2;
-    game.Player(1).Figures.Influence = -1;
-    EXPECT_EQ(Order(game), "2 3 10 4 5 6 7 8 9 1 ") << "behind the slots outside the game";
-}
-
-TEST(TurnOrder, OnlyADravikPlayerWithoutAgreementIsItalic) {
-    Game game;
-    game.Player(4).Race = Race::Dravik;
-    game.Player(5).Race = Race::Orrun;
     game.Cell(5, 6) = Agreement;
-    EXPECT_EQ(Order(game), "1 2 3 4/ 5 6 7 8 9 10 ");
-    game.Cell(10, 4) = Agreement;
-    EXPECT_EQ(Order(game), "1 2 3 4 5 6 7 8 9 10 ") << "whichever of the two made the agreement";
+    EXPECT_EQ(Order(game), "2 3 4 10 5 6 7 8 9 1 ");
 }
 
 } // namespace

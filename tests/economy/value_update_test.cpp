@@ -7,8 +7,6 @@
 namespace ksm {
 namespace {
 
-using enum Figure;
-
 void Give(Game& game, int player, std::initializer_list<PlanetRecord> planets) {
     for (PlanetRecord planet : planets) {
         planet.Owner = static_cast<std::uint8_t>(player);
@@ -31,89 +29,71 @@ Game TwoTraders() {
     return game;
 }
 
+// What is different from that, in the game or for player 4, and the figures of player 4: resources,
+// influence, planets, credits, and the costs (green, blue, red, yellow).
 struct ValueCase {
     const char* What;
-    std::function<void(Game&, PlayerRecord&)> Change; ///< of the game and of player 4
-    std::vector<std::pair<Figure, int>> Figures;      ///< of player 4
+    std::function<void(Game&, PlayerRecord&)> Change;
+    std::array<int, FigureCount> Figures;
 };
 
 const std::vector<ValueCase> ValueCases{
-    {"planets and an agreement",
-     [](Game&, PlayerRecord&) {},
-     {{Resources, 8},
-      {Influence, 5},
-      {Planets, 4},
-      {Credits, 10},
-      {RedCost, 27},
-      {BlueCost, 28},
-      {GreenCost, 28},
-      {YellowCost, 30}}},
-    {"Enviro Comp.",
-     [](Game&, PlayerRecord& player) {
-         player.Enviro = true;
-         player.SpaceDocks = 7;
+    {"nothing", [](Game&, PlayerRecord&) {}, {8, 5, 4, 10, 28, 28, 27, 30}},
+    {"Enviro Comp., Pellam Tools",
+     [](Game&, PlayerRecord& four) {
+         four.Enviro = four.PellamTools = true;
+         four.SpaceDocks = 7;
      },
-     {{Influence, 12}, {Resources, 8}}},
-    {"Pellam Tools",
-     [](Game&, PlayerRecord& player) { player.PellamTools = true; },
-     {{Resources, 12}, {Credits, 14}, {RedCost, 26}, {GreenCost, 27}, {YellowCost, 30}}},
+     {12, 12, 4, 14, 27, 27, 26, 30}},
     {"Micro Tech., a partner outside the game",
-     [](Game& game, PlayerRecord& player) {
-         player.Micro = true;
+     [](Game& game, PlayerRecord& four) {
+         four.Micro = true;
          game.Cell(4, 1) = game.Cell(2, 4) = Agreement;
          game.NumPlayers = 9;
      },
-     {{Credits, 16}}},
+     {8, 5, 4, 16, 28, 28, 27, 30}},
     {"Labour Union",
-     [](Game& game, PlayerRecord& player) {
-         game.Laws.LabourUnion = player.Enviro = true;
-         player.SpaceDocks = 9;
+     [](Game& game, PlayerRecord& four) {
+         game.Laws.LabourUnion = four.Enviro = true;
+         four.SpaceDocks = 9;
      },
-     {{Resources, 14}, {Influence, 8}, {Credits, 16}, {RedCost, 27}}},
+     {14, 8, 4, 16, 28, 28, 27, 30}},
     {"Trade Restrictions",
      [](Game& game, PlayerRecord&) {
          game.Laws.TradeRestrictions = true;
          game.Cell(4, 1) = Agreement; // with nothing
          game.Planet(0).Owner = game.Planet(1).Owner = game.Planet(2).Owner = NeutralOwner;
      },
-     {{Resources, 1}, {Credits, 2}}},
-    {"Free Trade",
-     [](Game& game, PlayerRecord&) {
+     {1, 2, 1, 2, 30, 30, 30, 30}},
+    {"Free Trade, and Orrun, for any agreements",
+     [](Game& game, PlayerRecord& four) {
          game.Laws.FreeTrade = true;
-         game.Cell(4, 1) = Agreement;
-     },
-     {{Credits, 20}}},
-    {"Orrun, for any agreements",
-     [](Game& game, PlayerRecord& player) {
-         player.Race = Race::Orrun;
+         four.Race = Race::Orrun;
          game.Cell(1, 2) = game.Cell(3, 1) = Agreement;
      },
-     {{Influence, 8}}},
-    {"Altheran, for other planets than the home",
-     [](Game&, PlayerRecord& player) { player.Race = Race::Altheran; },
-     {{Influence, 8}}},
-    {"Altheran without the home",
-     [](Game& game, PlayerRecord& player) {
-         player.Race = Race::Altheran;
+     {8, 8, 4, 15, 28, 28, 27, 30}},
+    {"Altheran, for other planets than the home, which it lost",
+     [](Game& game, PlayerRecord& four) {
+         four.Race = Race::Altheran;
          game.Planet(0).Owner = 10;
      },
-     {{Influence, 7}}},
+     {5, 7, 3, 8, 28, 28, 30, 30}},
     {"modifiers, also below 0",
-     [](Game& game, PlayerRecord& player) {
+     [](Game& game, PlayerRecord& four) {
          game.RedModifier = 18;
          game.GreenModifier = MaxModifier;
          game.BlueModifier = game.YellowModifier = 0;
-         player.YellowCost = 10;
+         four.YellowCost = 10;
      },
-     {{RedCost, 30}, {GreenCost, 43}, {BlueCost, 13}, {YellowCost, -5}}},
+     {8, 5, 4, 10, 43, 13, 30, -5}},
     {"discounts, at most the base cost",
-     [](Game& game, PlayerRecord& player) {
+     [](Game& game, PlayerRecord& four) {
          for (PlanetRecord& planet : game.LoadedPlanets()) {
              planet.Resources = 41;
          }
-         player.BlueCost = 40;
+         four.BlueCost = 40;
      },
-     {{RedCost, 0}, {BlueCost, 0}, {GreenCost, 0}, {YellowCost, 30}, {Resources, 164}}},
+     {164, 5, 4, 166, 0, 0, 0, 30}},
 };
 
 TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
@@ -122,24 +102,26 @@ TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
         Game game = TwoTraders();
         row.Change(game, game.Player(4));
         UpdateValues(game);
-        for (const auto& [figure, value] : row.Figures) {
-            EXPECT_EQ(ValueOf(game, 4, figure), value) << static_cast<int>(figure);
+        for (int index = 0; index < FigureCount; ++index) {
+            const auto figure = static_cast<Figure>(index);
+            EXPECT_EQ(ValueOf(game, 4, figure), row.Figures.at(static_cast<std::size_t>(index)))
+                << index;
+            int sum = 0;
+            for (const Explanation::Part& part : Explain(game, 4, figure).Parts) {
+                sum += part.Amount;
+            }
+            EXPECT_EQ(sum, ValueOf(game, 4, figure)) << index << " explained";
         }
+        EXPECT_EQ(game.Player(NeutralOwner).Figures.Resources, 0);
         const Game once = game;
         UpdateValues(game);
         EXPECT_EQ(game, once) << "nothing is left over from an earlier run";
     }
-}
-
-TEST(UpdateValues, CountsTheUnownedPlanetsAndTheAgreements) {
     Game game = TwoTraders();
     game.Cell(1, 10) = Agreement;
-    game.Player(11).Figures.Resources = 7;
     UpdateValues(game);
     EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, 1);
-    EXPECT_EQ(game.Player(NeutralOwner).Figures.Resources, 0);
     EXPECT_EQ(game.TradeCount, 2);
-    EXPECT_EQ(game.Player(11).Figures.Resources, 7) << "a slot that is never used";
 }
 
 } // namespace

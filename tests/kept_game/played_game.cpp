@@ -26,13 +26,6 @@ void Print(ksm::GameState state) {
     std::cout << hash.toHex().toStdString() << std::endl;
 }
 
-void Load(const ksm::GameWindow& game, const char* name) {
-    game.Choose("LGame");
-    game.Find<QLineEdit>("FileNam")->setText(name);
-    game.Click("Loa");
-    ksm::DeleteClosed();
-}
-
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -56,7 +49,7 @@ int main(int argc, char* argv[]) {
     for (;;) {
         const char* name = ksm::KeptGameNames.at(random() % ksm::KeptGameNames.size());
         if (random() % 20 == 0 && QFile::exists(name)) {
-            Load(game, name);
+            game.Load(name);
         } else if (random() % 10 == 0 && !game.state.Game.Started()) {
             game.Start();
         } else {

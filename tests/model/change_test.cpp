@@ -4,64 +4,69 @@
 #include "model/player_labels.h"
 #include "trade/trade_laws.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace ksm {
 namespace {
 
+using G = Game;
+
 Game NamedGame() {
-    Game game;
-    game.NumPlanets = 2;
-    game.Planet(0).Name = "Quessin";
-    game.Planet(1).Name = "Caldry";
-    SetName(game, 4, "Dora", "Dor");
-    SetName(game, 5, "Emil", "Emi");
-    game.Cell(1, 5) = game.Cell(2, 5) = Agreement;
-    return game;
+    Game g;
+    g.NumPlanets = 2;
+    g.Planet(0).Name = "Quessin";
+    g.Planet(1).Name = "Caldry";
+    SetName(g, 4, "Dora", "Dor");
+    SetName(g, 5, "Emil", "Emi");
+    g.Cell(1, 5) = g.Cell(2, 5) = Agreement;
+    return g;
+}
+
+TEST(PlayerLabels, NumberWhoHasNoName) {
+    const Game game;
+    for (int player = 1; player <= MaxPlayers; ++player) {
+        const std::string number = std::to_string(player);
+        const std::string blank = player < 10 ? " " : "";
+        EXPECT_EQ(PlayerCaption(game, player), "Player" + blank + number);
+        EXPECT_EQ(game.Player(player).ShortName, "PL" + blank + number);
+        EXPECT_EQ(OwnerCaption(game, player), "Player " + number);
+    }
 }
 
 TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
-    const std::pair<std::function<void(Game&)>, const char*> changes[]{
-        {[](Game& game) { SetPlayerCount(game, 8); }, "8 players"},
-        {[](Game& game) { ChooseRace(game, 4, Race::Altheran); }, "Altheran, Dora"},
-        {[](Game& game) { game.Planet(1).Owner = 10; }, "Caldry to Player 10"},
-        {[](Game& game) { game.Player(4).Enviro = game.Player(4).MicroEnabled = true; },
-         "Enviro Comp., Dora"},
-        {[](Game& game) { game.Player(4).PellamTools = true; }, "Pellam Tools, Dora"},
-        {[](Game& game) { game.Player(4).Micro = true; }, "Micro Tech., Dora"},
-        {[](Game& game) { game.Player(10).SpaceDocks = 0; }, "Space Docks, Player 10"},
-        {[](Game& game) { SetName(game, 4, "Ada", "Dor"); }, "name, Ada"},
-        {[](Game& game) { SetName(game, 4, "Dora", "D"); }, "name, Dora"},
-        {[](Game& game) { SetName(game, 3, "", "PL 3"); }, "name, Player 3"},
-        {[](Game& game) { SetColours(game, 4, {}); }, "colour, Dora"},
-        {[](Game& game) { game.Cell(4, 10) = Agreement; }, "agreement of Dora and Player 10"},
-        {[](Game& game) { game.Cell(10, 1) = Agreement; }, "agreement of Player 10 and Player 1"},
-        {[](Game& game) { game.Cell(2, 5) = NoAgreement; },
-         "end of the agreement of Player 2 and Emil"},
-        {[](Game& game) { StopTrade(game); }, "Trade Stop"},
-        {[](Game& game) {
-             game.Cell(1, 5) = NoAgreement;
-             game.TradeInfo = "\r\n\r\nTRADE STOP!";
+    const std::pair<void (*)(Game&), const char*> changes[]{
+        {[](G& g) { SetPlayerCount(g, 8); }, "8 players"},
+        {[](G& g) { ChooseRace(g, 4, Race::Altheran); }, "Altheran, Dora"},
+        {[](G& g) { g.Planet(1).Owner = 10; }, "Caldry to Player 10"},
+        {[](G& g) { g.Player(4).Enviro = g.Player(4).MicroEnabled = true; }, "Enviro Comp., Dora"},
+        {[](G& g) { g.Player(4).Micro = true; }, "Micro Tech., Dora"},
+        {[](G& g) { g.Player(10).SpaceDocks = 0; }, "Space Docks, Player 10"},
+        {[](G& g) { SetName(g, 4, "Ada", "Dor"); }, "name, Ada"},
+        {[](G& g) { SetName(g, 3, "", "PL 3"); }, "name, Player 3"},
+        {[](G& g) { SetColours(g, 4, {}); }, "colour, Dora"},
+        {[](G& g) { g.Cell(10, 1) = Agreement; }, "agreement of Player 10 and Player 1"},
+        {[](G& g) { g.Cell(2, 5) = NoAgreement; }, "end of the agreement of Player 2 and Emil"},
+        {[](G& g) { StopTrade(g); }, "Trade Stop"},
+        {[](G& g) {
+             g.Cell(1, 5) = NoAgreement;
+             g.TradeInfo = "\r\n\r\nTRADE STOP!";
          },
          "Trade Stop"},
-        {[](Game& game) { game.TradeStrokes.resize(1); }, "Trade Stop"},
-        {[](Game& game) { game.TradeMode = TradeMode::AddPartner; }, "Add"},
-        {[](Game& game) { game.TradeMode = TradeMode::RemoveFirst; }, "Remove"},
-        {[](Game& game) { game.TradeMode = TradeMode::RemovePartner; }, "Remove"},
-        {[](Game& game) { ToggleEconomicIndependence(game); }, "Economic Independance"},
-        {[](Game& game) { game.IndepFirst = 2; }, "Economic Independance"},
-        {[](Game& game) { game.IndepSecond = 2; }, "Economic Independance"},
-        {[](Game& game) { game.Laws.LabourUnion = true; }, "Labour Union"},
-        {[](Game& game) { game.Laws.FreeTrade = true; }, "Free Trade"},
-        {[](Game& game) { game.Laws.TradeRestrictions = true; }, "Trade Restrictions"},
-        {[](Game& game) { game.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
-        {[](Game& game) { game.YellowModifier = game.RedModifier = 0; }, "Tech Modifiers"},
-        {[](Game& game) { game.Planet(0).Owner = game.Planet(1).Owner = 5; },
-         "Quessin to Emil and 1 more"},
-        {[](Game& game) {
-             ChooseRace(game, 4, Race::Altheran);
-             game.Laws.LabourUnion = true;
+        {[](G& g) { g.TradeStrokes.resize(1); }, "Trade Stop"},
+        {[](G& g) { g.TradeMode = TradeMode::AddPartner; }, "Add"},
+        {[](G& g) { g.TradeMode = TradeMode::RemovePartner; }, "Remove"},
+        {[](G& g) { ToggleEconomicIndependence(g); }, "Economic Independance"},
+        {[](G& g) { g.IndepFirst = 2; }, "Economic Independance"},
+        {[](G& g) { g.IndepSecond = 2; }, "Economic Independance"},
+        {[](G& g) { g.Laws.LabourUnion = true; }, "Labour Union"},
+        {[](G& g) { g.Laws.FreeTrade = true; }, "Free Trade"},
+        {[](G& g) { g.Laws.TradeRestrictions = true; }, "Trade Restrictions"},
+        {[](G& g) { g.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
+        {[](G& g) { g.YellowModifier = 0; }, "Tech Modifiers"},
+        {[](G& g) { g.Planet(0).Owner = g.Planet(1).Owner = 5; }, "Quessin to Emil and 1 more"},
+        {[](G& g) {
+             ChooseRace(g, 4, Race::Altheran);
+             g.Laws.LabourUnion = true;
          },
          "Altheran, Dora and 3 more"},
     };

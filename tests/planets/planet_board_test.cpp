@@ -1,6 +1,9 @@
+#include "economy/value_update.h"
+#include "planets/board_listing.h"
 #include "tests/game_window.h"
 
 #include <QMenu>
+#include <QToolTip>
 
 #include <functional>
 
@@ -8,33 +11,31 @@ namespace ksm {
 namespace {
 
 /// A game in play. Planets 4 to 18 belong to player 2, planet 19 to player 6, the others to nobody.
-struct Board : GameWindow {
-    explicit Board(int listed = AllPlanets) {
-        Start();
-        for (int planet = 4; planet < 20; ++planet) {
-            state.Game.Planet(planet).Owner = planet == 19 ? 6 : 2;
-        }
-        window.UpdateValues();
-        Click("InvasionPlayer", listed);
+GameState InPlay(int listed = AllPlanets) {
+    GameState state = GameOfTwentyPlanets();
+    state.Game.StartTime = 1;
+    for (int planet = 4; planet < 20; ++planet) {
+        state.Game.Planet(planet).Owner = planet == 19 ? 6 : 2;
     }
+    UpdateValues(state.Game);
+    ListOwner(state, listed);
+    return state;
+}
 
-    std::string Tag(int row) const { return Row(row)->property("Tag").toString().toStdString(); }
-    /// The colours of the pool, players 1 to 6, "All planets" and the first two rows.
-    std::string Colours() const {
-        std::string letters;
-        const auto add = [&](const QWidget* label) {
-            const QColor colour = label->palette().color(QPalette::Window);
-            letters += colour == QColor(Qt::red) ? 'R' : colour == QColor(Qt::yellow) ? 'Y' : '.';
-        };
-        for (const int owner : {0, 1, 2, 3, 4, 5, 6, AllPlanets}) {
-            add(Owner(owner));
-        }
-        add(Row(0));
-        add(Row(1));
-        return letters;
+/// The colours of the pool, players 1 to 6, "All planets" and the first two rows.
+std::string Colours(const GameWindow& board) {
+    std::string letters;
+    const auto add = [&](const QWidget* label) {
+        const QColor colour = label->palette().color(QPalette::Window);
+        letters += colour == QColor(Qt::red) ? 'R' : colour == QColor(Qt::yellow) ? 'Y' : '.';
+    };
+    for (const int owner : {0, 1, 2, 3, 4, 5, 6, AllPlanets}) {
+        add(board.Owner(owner));
     }
-    void Key(Qt::Key key) const { QTest::keyClick(Row(0), key); }
-};
+    add(board.Row(0));
+    add(board.Row(1));
+    return letters;
+}
 
 TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
     const struct {
@@ -44,35 +45,31 @@ TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
         int planet, owner;
     } rows[]{
         {AllPlanets, 0, {3}, "InvasionPlayer(3)", "...R...YR.", ".......Y..", "0", 0, 3},
-        {AllPlanets, 1, {1, 0}, "InvasionPlayer(0)", "R......Y.R", ".......Y..", "0", 1, 0},
         {2, 0, {1, 0}, "InvasionPlayer(0)", "R.Y.....R.", "..Y.......", "5", 4, 0},
         // The mark stays until another owner is passed over, or the drop is cancelled.
-        {2, 1, {4, 2}, "InvasionPlayer(2)", "..Y.R....R", "..Y.R....R", "4", 5, 2},
         {2, 1, {4, 6}, "InvasionPlayer(20)", "..Y...R..R", "..Y...R..R", "4", 5, 2},
-        {2, 1, {6}, "InvasionPlanet(5)", "..Y...R..R", "..Y...R..R", "4", 5, 2},
-        {2, 1, {6}, "AddTAbutton", "..Y...R..R", "..Y...R..R", "4", 5, 2},
+        {2, 1, {6, 2}, "AddTAbutton", "..Y...R..R", "..Y...R..R", "4", 5, 2},
         {2, 1, {6}, "InvasionPic", "..Y...R..R", "..Y.......", "4", 5, 2},
-        {6, 0, {5}, "InvasionPlanet(1)", ".....RY.R.", "......Y...", "19", 19, 6},
         {6, 0, {5}, "InvasionResInf(9)", ".....RY.R.", "......Y...", "19", 19, 6},
         {5, 0, {6}, "InvasionPlayer(6)", ".....YR.R.", ".....YR.R.", "255", 0, 0},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.listed << " listed, dropped on " << row.target);
-        Board board(row.listed);
+        const GameWindow board(InPlay(row.listed));
         const auto* target = board.Find<QWidget>(row.target);
         board.Press(row.row);
         for (const int owner : row.over) {
-            board.MoveOver(row.row, board.Owner(owner));
+            board.MoveOver(board.Owner(owner));
         }
         auto* outline = board.Find<QWidget>("DragOutline");
         EXPECT_TRUE(outline->isVisible());
-        EXPECT_TRUE(OnScreen(board.window) == Picture(board.window)) << "not painted anew";
-        EXPECT_EQ(board.Colours(), row.during);
-        const bool isPanel = target == board.Find<QWidget>("InvasionPic");
-        board.DropOn(row.row, target, isPanel ? QPoint(60, 177) : target->rect().center());
+        EXPECT_EQ(outline->pos() + QPoint(3, 3), Centre(board.Owner(row.over.back())));
+        EXPECT_EQ(Colours(board), row.during);
+        const bool isPanel = row.target == QString("InvasionPic");
+        board.DropOn(target, isPanel ? QPoint(60, 177) : target->rect().center());
         EXPECT_FALSE(outline->isVisible());
-        EXPECT_EQ(board.Colours(), row.after);
-        EXPECT_EQ(board.Tag(0), row.firstTag);
+        EXPECT_EQ(Colours(board), row.after);
+        EXPECT_EQ(board.Row(0)->property("Tag"), row.firstTag);
         EXPECT_EQ(board.state.Game.Planet(row.planet).Owner, row.owner);
     }
 }
@@ -81,85 +78,100 @@ TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
 TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
     const struct {
         const char* what;
-        std::function<void(Board&)> happens;
+        std::function<void(GameWindow&)> happens;
         bool endsDrag, endsCarrying;
-    } rows[]{{"nothing", [](Board&) {}, false, false},
-             {"a modal window", [](Board& board) { board.Choose("About"); }, true, true},
-             {"a window beside", [](Board& board) { board.Choose("Dice"); }, true, false},
-             {"a menu", [](Board& board) { board.Find<QMenu>("MenuLaws")->popup({}); }, true, true},
-             {"a release", [](Board& board) { board.Click("TradePic"); }, true, true},
-             {"the scroll bar", [](Board& board) { board.Move("PlanetScroller", 3); }, false, true},
-             {"another list", [](Board& board) { QTest::keyClick(board.Owner(2), Qt::Key_Space); },
-              false, true},
-             {"the focus", [](Board& board) { board.Find<QWidget>("PlayerName", 1)->setFocus(); },
-              false, true}};
+    } rows[]{
+        {"nothing", [](GameWindow&) {}, false, false},
+        {"Escape", [](GameWindow& board) { board.Key(Qt::Key_Escape); }, true, true},
+        {"the wheel", [](GameWindow& board) { Turn(board.Row(3), -1); }, false, true},
+        {"a modal window", [](GameWindow& board) { board.Choose("About"); }, true, true},
+        {"a window beside", [](GameWindow& board) { board.Choose("Dice"); }, true, true},
+        {"a menu", [](GameWindow& board) { board.Find<QMenu>("MenuLaws")->popup({}); }, true, true},
+        {"a tip", [](GameWindow& board) { QToolTip::showText({}, "tip", board.Row(0)); }, false,
+         false},
+        {"a release", [](GameWindow& board) { QTest::mouseClick(board.Owner(5), Qt::LeftButton); },
+         true, true},
+        {"the scroll bar", [](GameWindow& board) { board.Move("PlanetScroller", 3); }, false, true},
+        {"another list", [](GameWindow& board) { emit board.Find("InvasionPlayer(2)")->Clicked(); },
+         false, true},
+        {"the focus", [](GameWindow& board) { board.Focus("PlayerName(1)"); }, false, true}};
     for (const auto& [what, happens, endsDrag, endsCarrying] : rows) {
         SCOPED_TRACE(what);
-        Board dragging;
-        dragging.Press(0);
-        dragging.MoveOver(0, dragging.Owner(5));
-        happens(dragging);
-        EXPECT_EQ(dragging.Find<QWidget>("DragOutline")->isVisible(), !endsDrag);
-        EXPECT_EQ(dragging.Colours().find('R') == std::string::npos, endsDrag);
-        dragging.DropOn(0, dragging.Owner(6));
-        EXPECT_EQ(dragging.state.Game.Planet(0).Owner, endsDrag ? NeutralOwner : 6);
-
-        Board carrying;
-        carrying.Activate();
-        carrying.Row(0)->setFocus();
-        carrying.Key(Qt::Key_Return);
-        carrying.Key(Qt::Key_Down);
-        happens(carrying);
-        EXPECT_EQ(carrying.Colours().find('R') == std::string::npos, endsCarrying);
-        carrying.Key(Qt::Key_Return);
-        EXPECT_EQ(carrying.state.Game.Planet(0).Owner, endsCarrying ? NeutralOwner : 1);
-        EXPECT_EQ(carrying.state.Game.Planet(4).Owner, 2);
+        for (const bool byMouse : {true, false}) {
+            const bool ends = byMouse ? endsDrag : endsCarrying;
+            GameWindow board(InPlay());
+            board.Activate();
+            board.Row(0)->setFocus();
+            byMouse ? board.Press(0) : board.Key(Qt::Key_Return);
+            byMouse ? board.MoveOver(board.Owner(1)) : board.Key(Qt::Key_Down);
+            EXPECT_EQ(Colours(board), ".R.....YR.");
+            happens(board);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(Colours(board).find('R') == std::string::npos, ends);
+            const QString heading = board.Find("InvasionPlanet(0)")->Heading();
+            EXPECT_EQ(heading.contains(", over Player 1"), !byMouse && !ends);
+            byMouse ? board.DropOn(board.Owner(1)) : QTest::keyClick(board.Row(0), Qt::Key_Return);
+            EXPECT_EQ(board.state.Game.Planet(0).Owner, ends ? NeutralOwner : 1);
+        }
     }
 }
 
 TEST(PlanetBoard, ADropOnAWindowOverTheBoardDoesNothing) {
-    Board board;
+    const GameWindow board(InPlay());
     board.Choose("Notes");
     board.Find<QWidget>("NoteForm")->move(board.window.mapToGlobal(QPoint(150, 40)));
-    board.Drag(0, 6);
-    EXPECT_EQ(board.Colours(), ".......Y..") << "nor is an owner marked that is not seen";
-    EXPECT_EQ(board.state.Game.Planet(0).Owner, NeutralOwner);
-    board.Close("NoteForm");
-    board.Drag(0, 6);
-    EXPECT_EQ(board.state.Game.Planet(0).Owner, 6);
+    for (const int owner : {NeutralOwner, 6}) {
+        board.Drag(0, 6);
+        EXPECT_EQ(Colours(board), ".......Y..") << "nor is an owner marked that is not seen";
+        EXPECT_EQ(board.state.Game.Planet(0).Owner, owner);
+        owner == NeutralOwner ? board.Close("NoteForm") : void();
+    }
     EXPECT_EQ(board.Caption("PlayerResources", 6), "4") << "figures follow";
 }
 
 // The keyboard's way: Return picks up, arrows carry, Return sets down, Escape puts back.
 TEST(PlanetBoard, APlanetCanBeGivenAwayByKeyboard) {
-    Board board(2);
-    const auto heading = [&] { return board.Find("InvasionPlanet", 0)->Heading(); };
-    board.Key(Qt::Key_Return);
+    GameWindow board(InPlay(2));
+    board.Activate();
+    board.Focus("InvasionPlanet(0)");
+    const std::tuple<Qt::Key, const char*, const char*> keys[]{
+        {Qt::Key_Return, "R.Y.....R.", ", over Neutral"},
+        {Qt::Key_Down, ".RY.....R.", ", over Player 1"},
+        {Qt::Key_Right, "..YR....R.", ", over Player 3"}, // passes over the listed owner
+        {Qt::Key_Return, "..Y.......", ""},
+        {Qt::Key_Space, "R.Y.....R.", ", over Neutral"},
+        {Qt::Key_Up, "..Y...R.R.", ", over Player 6"}, // round from the first owner to the last
+        {Qt::Key_Escape, "..Y.......", ""},
+        {Qt::Key_Return, "R.Y.....R.", ", over Neutral"}};
+    for (const auto& [key, colours, over] : keys) {
+        board.Key(key);
+        EXPECT_EQ(Colours(board), colours);
+        EXPECT_EQ(board.Find("InvasionPlanet", 0)->Heading(), QString("Planet, row 1") + over);
+    }
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QApplication::sendEvent(board.Row(0), &repeated);
-    EXPECT_EQ(board.Colours(), "R.Y.....R.") << "a held Return only picks up";
-    board.Key(Qt::Key_Down);
-    EXPECT_EQ(heading(), "Planet, row 1, over Player 1");
-    board.Key(Qt::Key_Down);
-    EXPECT_EQ(board.Colours(), "..YR....R.") << "passes over the listed owner";
-    board.Key(Qt::Key_Return);
+    EXPECT_EQ(Colours(board), "R.Y.....R.") << "a held Return only picks up";
+    board.state.View = {};
+    board.window.ShowGame();
+    EXPECT_EQ(board.Find("InvasionPlanet", 0)->Heading(), "Planet, row 1") << "another game came";
     EXPECT_EQ(board.state.Game.Planet(4).Owner, 3);
-
-    board.Key(Qt::Key_Return);
-    board.Key(Qt::Key_Up);
-    EXPECT_EQ(board.Colours(), "..Y...R.R.") << "round from the first owner to the last";
-    board.Key(Qt::Key_Escape);
-    EXPECT_EQ(board.Colours(), "..Y.......");
-    EXPECT_EQ(heading(), "Planet, row 1");
     EXPECT_EQ(board.state.Game.Planet(5).Owner, 2);
     board.Click("InvasionPlayer", 5);
     board.Key(Qt::Key_Return);
-    EXPECT_EQ(board.Colours(), ".....Y....") << "an empty row has nothing to pick up";
-    board.Click("InvasionPlayer", 2);
-    board.Key(Qt::Key_Return);
-    board.state.View.MarkedRows.reset(); // as another game has it
-    board.window.ShowGame();
-    EXPECT_EQ(heading(), "Planet, row 1") << "nothing is carried any longer";
+    EXPECT_EQ(Colours(board), ".....Y....") << "an empty row has nothing to pick up";
+}
+
+TEST(PlanetBoard, TheWheelScrollsAndRestingOnAPlanetTellsWhoseItIs) {
+    GameWindow board(InPlay());
+    board.Activate();
+    Turn(board.Row(3), -1);
+    EXPECT_EQ(board.state.View.BoardPosition, 3);
+    board.MoveOver(board.Row(1));
+    const auto tip = [] { return AsRead(QToolTip::text()); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tip() == "World 4 belongs to Player 2"; }));
+    board.state.Game.Planet(4).Owner = NeutralOwner;
+    EXPECT_EQ(board.Find("InvasionPlanet", 1)->Explanation(), "World 4 belongs to nobody");
+    QToolTip::hideText();
 }
 
 } // namespace

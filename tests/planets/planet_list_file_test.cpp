@@ -13,11 +13,8 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     // Fields.
     {"Alpha,2,1,b", {"Alpha", 2, 1, Blue}},
     {"Alpha,2,1,green,extra", {"Alpha", 2, 1, Green}},
-    {"Alpha,2,1,RED", {"Alpha", 2, 1, Red}},
     {"Alpha, 2, 1, b", {"Alpha", 2, 1, None}},
     {"Alpha,,3,yellow", {"Alpha", 0, 3, None}},
-    {" Al pha ,1", {" Al pha ", 1, 0, None}},
-    {"\"A,B\",4", {"\"A", 0, 4, None}},
     // A line feed alone ends no line, and counts as a blank in a number.
     {"Al\npha,1\n2,\n3", {"Al\npha", 12, 3, None}},
     {"\r\n", {"", 0, 0, None}},
@@ -31,13 +28,11 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     // Numbers.
     {"N,3x,1,Blue", {"N", 3, 1, Blue}},
     {"N,x3,+4", {"N", 0, 4, None}},
-    {"N,2.5,3.5,g", {"N", 2, 4, Green}},
-    {"N,-.5,-0.4", {"N", 0, 0, None}},
+    {"N,-.5,--3,RED", {"N", 0, 0, Red}},
     {"N,.6,5.,r", {"N", 1, 5, Red}},
-    {"N,1.2.9,.", {"N", 1, 0, None}},
+    {" N ,1.2.9,.", {" N ", 1, 0, None}},
     {"N,1 \t2,1e1", {"N", 12, 10, None}},
-    {"N,25D-1,1.5E+1", {"N", 2, 15, None}},
-    {"N,E5,--3", {"N", 0, 0, None}},
+    {"N,25D-1,1.5E+1,g", {"N", 2, 15, Green}},
     {"N,1e-999,0e999", {"N", 0, 0, None}},
     {"N,&HfF,&o17", {"N", 255, 15, None}},
     {"N,&H,&O8", {"N", 0, 0, None}},
@@ -54,12 +49,8 @@ TEST(PlanetList, ReadsALineAs) {
 }
 
 TEST(PlanetList, SkipsCommentsAndCountsBlankLines) {
-    std::string names;
-    const auto list = ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n");
-    for (const PlanetRecord& planet : *list) {
-        names += planet.Name + '|';
-    }
-    EXPECT_EQ(names, "A||B||C\n|");
+    const PlanetList list = *ReadPlanetList("'one\rA\r\n\r'two\r\nB,1\r\r\nC\n\r\n");
+    EXPECT_EQ(list, (PlanetList{{"A"}, {""}, {"B", 1}, {""}, {"C\n"}}));
 }
 
 TEST(PlanetList, ReportsEveryFigureOutOfRangeWithItsLineUpToTen) {
@@ -99,9 +90,8 @@ TEST(PlanetList, FillsThePoolOfTheGameWithOneToOneHundredAndOnePlanets) {
 }
 
 TEST(PlanetList, WithoutAPlanetOrAFileIsAProblem) {
-    for (const char* text : {"", "\xEF\xBB\xBF", "'only\r\n'comments", "'feeds\nA\r"}) {
-        EXPECT_EQ(ReadPlanetList(text).Reason(), "no planet (allowed: 1 to 101 planets)");
-    }
+    EXPECT_EQ(ReadPlanetList("\xEF\xBB\xBF'c\r\n'c").Reason(),
+              "no planet (allowed: 1 to 101 planets)");
     EXPECT_EQ(ReadPlanetList("'line feeds\nA,1\n").Reason(),
               "no planet, since no line ends with CR LF (allowed: 1 to 101 planets)");
     EXPECT_EQ(ReadPlanetListFile("/no/such").Reason(),

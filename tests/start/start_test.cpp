@@ -72,19 +72,15 @@ TEST_F(Start, SaysNoMoreThanThatThereIsNoDisplay) {
 }
 
 TEST(ChooseDisplay, PrefersX11WhereADesktopOffersBoth) {
-    const auto chosen = [](std::initializer_list<const char*> offered) {
-        for (const char* variable : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
-            qunsetenv(variable);
-        }
-        for (const char* variable : offered) {
-            qputenv(variable, "wayland");
+    for (const auto& [platform, x11, chosen] :
+         {std::tuple{"", "x", "xcb"}, std::tuple{"", "", ""}, std::tuple{"w", "x", "w"}}) {
+        for (const auto& [variable, value] :
+             {std::pair{"QT_QPA_PLATFORM", platform}, {"DISPLAY", x11}, {"WAYLAND_DISPLAY", "w"}}) {
+            *value == '\0' ? qunsetenv(variable) : qputenv(variable, value);
         }
         ChooseDisplay();
-        return qgetenv("QT_QPA_PLATFORM");
-    };
-    EXPECT_EQ(chosen({"WAYLAND_DISPLAY", "DISPLAY"}), "xcb");
-    EXPECT_EQ(chosen({"WAYLAND_DISPLAY"}), "");
-    EXPECT_EQ(chosen({"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}), "wayland");
+        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), chosen);
+    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
