@@ -57,7 +57,8 @@ TEST_F(KeptGames, FollowTheMainWindowWhichSaysWhyOneCannotBeKept) {
     const GameState start = GameOf(0, "");
     KeptGame kept(start);
     GameWindow game(start, &kept);
-    game.Click("InvasionPlayer", 3);
+    game.state.View.EditedPlayer = 3;
+    kept.Keep(game.state);
     EXPECT_TRUE(Files().empty()) << "nothing to keep of a game that only was looked at";
     for (int click = 0; click < 2; ++click) { // the second makes it the first one again
         QFile::remove(KeptGameName);
