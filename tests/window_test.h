@@ -25,20 +25,14 @@
 namespace ksm {
 
 /// Deletes the windows that were closed, as the event loop would.
-inline void DeleteClosed() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
+inline void DeleteClosed() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 /// In the pixels of the window that the platform knows.
 inline QPoint PlaceIn(const QWidget* control, QPoint place) {
     return control->mapTo(control->window(), place);
 }
-inline QPoint Centre(const QWidget* control) {
-    return PlaceIn(control, control->rect().center());
-}
-inline QWindow* PlatformWindow(const QWidget* control) {
-    return control->window()->windowHandle();
-}
+inline QPoint Centre(const QWidget* control) { return PlaceIn(control, control->rect().center()); }
+inline QWindow* PlatformWindow(const QWidget* control) { return control->window()->windowHandle(); }
 
 /// A notch of the wheel over the control; up is positive.
 inline void Turn(const QWidget* control, int notches) {

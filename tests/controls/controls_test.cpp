@@ -43,10 +43,7 @@ TEST(SpinBar, StepsOnceForAClickAKeyOrANotch) {
         {[&] { click(0, 12); }, 6},
         {[&] { click(16, 24); }, 6},
         {[&] { QTest::mouseClick(&bar, Qt::RightButton); }, 5},
-        {[&] {
-             QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
-         },
-         7},
+        {[&] { QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {8, 20}); }, 7},
         {[&] { Turn(&bar, 1); }, 4},
         {[&] { QTest::keyClick(window.windowHandle(), Qt::Key_Down); }, 6},
         {[&] { bar.clearFocus(); }, 5},

@@ -25,9 +25,7 @@ bool Strikes(std::string_view call) {
 
 } // namespace
 
-void SetFault(const SystemFault& fault) {
-    armed = fault;
-}
+void SetFault(const SystemFault& fault) { armed = fault; }
 
 } // namespace ksm
 

@@ -19,9 +19,7 @@ void CloseFirstWindow() {
     QApplication::closeAllWindows();
 }
 
-void AwaitFirstWindow() {
-    QTimer::singleShot(0, CloseFirstWindow);
-}
+void AwaitFirstWindow() { QTimer::singleShot(0, CloseFirstWindow); }
 
 } // namespace
 
