@@ -61,6 +61,7 @@ TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
         for (const int owner : row.over) {
             board.MoveOver(board.Owner(owner));
         }
+        Turn(board.Row(3), -1); // what is under the pointer stays there
         auto* outline = board.Find<QWidget>("DragOutline");
         EXPECT_TRUE(outline->isVisible());
         EXPECT_EQ(outline->pos() + QPoint(3, 3), Centre(board.Owner(row.over.back())));
