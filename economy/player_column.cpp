@@ -66,20 +66,15 @@ PlayerColumn::PlayerColumn(Game& shown, int number, const QStringList& races, QW
     MakeTechnologies();
 }
 
-QString PlayerColumn::Heading(const char* row) const {
-    return QString("%1, Player %2").arg(QLatin1StringView(row)).arg(player);
-}
-
-CaptionLabel* PlayerColumn::MakeLabel(const char* name, const char* heading, const QRect& place) {
+CaptionLabel* PlayerColumn::MakeLabel(const char* name, const QRect& place) {
     auto* label = new CaptionLabel(ElementName(name, player), place, window);
     label->SetAlignment(Qt::AlignCenter);
-    label->SetHeading(Heading(heading));
     return label;
 }
 
 QCheckBox* PlayerColumn::MakeBox(const char* name, const Technology& technology, int top) {
     auto* box = new QCheckBox(window);
-    NameAndPlace(*box, ElementName(name, player), {0, top, 17, 17}, Heading(technology.Caption));
+    NameAndPlace(*box, ElementName(name, player), {0, top, 17, 17});
     box->setToolTip(technology.Tip);
     return box;
 }
@@ -89,12 +84,12 @@ void PlayerColumn::MakeNames(const QStringList& races) {
     const int lineTop = player == 8 ? 192 : 200;
     StatLine =
         new LineControl(ElementName("StatLine", player), {0, lineTop, 1, 440 - lineTop}, window);
-    PlayerName = MakeLabel("PlayerName", "Name", {0, 184, 55, 18});
+    PlayerName = MakeLabel("PlayerName", {0, 184, 55, 18});
+    PlayerName->SetHeading(QString("Name, Player %1").arg(player));
     PlayerName->MakeClickable();
-    RaceLabel = MakeLabel("RaceLabel", "Race", {0, 205, 55, 16});
+    RaceLabel = MakeLabel("RaceLabel", {0, 205, 55, 16});
     Race = new ChoiceBox(ElementName("Race", player), "Race", races, window);
     Race->setGeometry(0, 205, 54, 21);
-    Race->SetHeading(Heading("Race"));
     connect(PlayerName, &CaptionLabel::Clicked, this, [this] { emit NameClicked(player); });
     connect(Race, &ChoiceBox::Chosen, this, &PlayerColumn::Race_Click);
 }
@@ -103,8 +98,7 @@ void PlayerColumn::MakeFigures() {
     for (std::size_t index = 0; index < Figures.size(); ++index) {
         const FigureDesign& design = FigureDesigns.at(index);
         const auto figure = static_cast<Figure>(index);
-        CaptionLabel* label =
-            MakeLabel(design.Name, design.Heading, {0, design.Top, 25, design.Height});
+        CaptionLabel* label = MakeLabel(design.Name, {0, design.Top, 25, design.Height});
         label->setFont(design.Bold ? BoldFont(FigureText) : PlainFont(FigureText));
         label->SetSmallestText(SmallestFigure);
         label->SetExplanation([this, figure] { return ExplanationText(game, player, figure); });
@@ -119,14 +113,13 @@ void PlayerColumn::MakeFigures() {
 }
 
 void PlayerColumn::MakeDocks() {
-    SpaceDocks = MakeLabel("SpaceDocks", "Space Docks", {0, 295, 17, 17});
+    SpaceDocks = MakeLabel("SpaceDocks", {0, 295, 17, 17});
     SpaceDocks->setFont(PlainFont(FigureText));
     SpaceDocks->SetAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     SpaceDocks->SetExplanation([this] { return DockText(game, player); });
     DockScroll = new SpinBar(ElementName("DockScroll", player), {0, 290, 17, 25}, window);
     DockScroll->SetCount({.AtZero = MaxSpaceDocks, .Least = 0, .Most = MaxSpaceDocks});
     DockScroll->SetRange(0, MaxSpaceDocks, MaxSpaceDocks - Record().SpaceDocks);
-    DockScroll->setAccessibleName(Heading("Space Docks"));
     connect(DockScroll, &QScrollBar::valueChanged, this, &PlayerColumn::DockScroll_Change);
 }
 
@@ -146,6 +139,7 @@ void PlayerColumn::ShowGame() {
     Race->setVisible(inGame && !game.Started());
     if (inGame) {
         ShowPlace();
+        ShowHeadings();
         ShowPlayer();
         ShowValues();
     }
@@ -163,6 +157,27 @@ void PlayerColumn::ShowPlace() {
     MoveTo(place.FigureLeft + 3, {SpaceDocks});
     MoveTo(place.FigureLeft + 19, {DockScroll});
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});
+}
+
+/// What assistive technology says before a figure: "Influence, Ada".
+void PlayerColumn::ShowHeadings() {
+    const QString who = Record().Name.empty() ? QString("Player %1").arg(player)
+                                              : QString::fromStdString(Record().Name);
+    if (who == headed) {
+        return;
+    }
+    headed = who;
+    const auto heading = [&](const char* row) { return QLatin1StringView(row) + ", " + who; };
+    RaceLabel->SetHeading(heading("Race"));
+    Race->SetHeading(heading("Race"));
+    for (std::size_t index = 0; index < Figures.size(); ++index) {
+        Figures.at(index)->SetHeading(heading(FigureDesigns.at(index).Heading));
+    }
+    SpaceDocks->SetHeading(heading("Space Docks"));
+    DockScroll->setAccessibleName(heading("Space Docks"));
+    Enviro->setAccessibleName(heading(EnviroComp.Caption));
+    PellamTools->setAccessibleName(heading(ksm::PellamTools.Caption));
+    Micro->setAccessibleName(heading(MicroTech.Caption));
 }
 
 void PlayerColumn::ShowPlayer() {

@@ -44,9 +44,8 @@ private:
     void MakeFigures();
     void MakeDocks();
     void MakeTechnologies();
-    CaptionLabel* MakeLabel(const char* name, const char* heading, const QRect& place);
+    CaptionLabel* MakeLabel(const char* name, const QRect& place);
     QCheckBox* MakeBox(const char* name, const Technology& technology, int top);
-    QString Heading(const char* row) const;
 
     void Race_Click(int index);
     void DockScroll_Change(int value);
@@ -56,6 +55,7 @@ private:
     void Micro_Click(bool checked);
     void Tick(bool& owned, bool checked);
     void ShowPlace();
+    void ShowHeadings();
     void ShowPlayer();
     void ShowValues();
 
@@ -64,6 +64,7 @@ private:
     Game& game;
     const int player;
     QWidget* window;
+    QString headed; ///< whose column the headings say it is
 
     CaptionLabel* PlayerName = nullptr;
     LineControl* StatLine = nullptr;

@@ -110,14 +110,18 @@ def check_explanation(game, start, *words):
     check(all(word in text for word in words), f"{start} is explained: {text!r}", words)
 
 
+def who(player):
+    return "Ada" if player == 2 else f"Player {player}"
+
+
 def explain(game):
     for player in (1, 2, 3):
         for figure in ("Resources", "Influence", "Planets", "Receive Credits",
                        "Green technology cost", "Blue technology cost", "Red technology cost",
                        "Yellow technology cost"):
-            heading = f"{figure}, Player {player}"
+            heading = f"{figure}, {who(player)}"
             check_explanation(game, heading, f"{game.figure(heading)} = ")
-        check_explanation(game, f"Space Docks, Player {player}: ", "Space Docks", "influence")
+        check_explanation(game, f"Space Docks, {who(player)}: ", "Space Docks", "influence")
     check_explanation(game, "Receive Credits, Player 1", "resources")
     check_explanation(game, "Planet, row 1: ", "belongs to")
     check_explanation(game, "Resources and influence, row 1", "resource", "influence")
@@ -166,16 +170,16 @@ def give_a_planet(game):
     game.tab_to("All planets")
     game.press("Down", "space")
     planet = game.figure("Planet, row 1")
-    planets = int(game.figure("Planets, Player 2"))
+    planets = int(game.figure("Planets, Ada"))
     pool = game.figure("Planet, row 2")
     game.tab_to("Planet, row 1")
     game.press("Return", "Down")
     check_said(game, f"Planet, row 1, over Ada: {planet}")
     game.press("Escape")
-    check_figure(game, "Planets, Player 2", str(planets))
+    check_figure(game, "Planets, Ada", str(planets))
     check_figure(game, "Planet, row 1", planet)
     game.press("Return", "Down", "Return")
-    check_figure(game, "Planets, Player 2", str(planets + 1))
+    check_figure(game, "Planets, Ada", str(planets + 1))
     check_figure(game, "Planet, row 1", pool)
     game.tab_to("Neutral", "shift+Tab")
     game.press("Down", "Down", "Return")
@@ -184,7 +188,7 @@ def give_a_planet(game):
 
 
 def credits_of(game, player):
-    return int(game.figure(f"Receive Credits, Player {player}"))
+    return int(game.figure(f"Receive Credits, {who(player)}"))
 
 
 def agree(game):
