@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -15,7 +16,7 @@ Failure LastFailure() { return {std::generic_category().message(errno)}; }
 
 int Open(const std::filesystem::path& path, int flags) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): as it is declared.
-    return open(path.c_str(), flags | O_CLOEXEC, 0666);
+    return open(path.c_str(), flags | O_CLOEXEC, DEFFILEMODE);
 }
 
 // A full disk takes a part, and refuses the next.
