@@ -7,7 +7,6 @@
 #include <QWidget>
 
 #include <map>
-#include <optional>
 #include <vector>
 
 namespace ksm {
@@ -41,9 +40,9 @@ private:
     /// A planet on its way to an owner. It stays the one that was taken, whatever the board lists
     /// meanwhile.
     struct Journey {
-        bool ByMouse;
-        int Row;
-        int Tag;
+        enum class Way { None, Mouse, Keyboard } By = Way::None;
+        int Row = 0;
+        int Tag = NoPlanet;
         QPoint Grip{};      ///< where the pointer holds the label
         int Over = NoOwner; ///< owner under it
     };
@@ -73,8 +72,8 @@ private:
     void ShowMarks();
     void ShowJourney();
     BoardRow& Row(int row) { return rows.at(static_cast<std::size_t>(row)); }
-    bool IsDragging() const { return journey && journey->ByMouse; }
-    bool IsCarrying() const { return journey && !journey->ByMouse; }
+    bool IsDragging() const { return journey.By == Journey::Way::Mouse; }
+    bool IsCarrying() const { return journey.By == Journey::Way::Keyboard; }
     /// The panel or its control that is seen at this place of the screen, or null.
     const QWidget* SeenAt(QPoint global) const;
     /// The index of the owner label that this is, or `NoOwner`.
@@ -88,7 +87,7 @@ private:
     FocusGroup* planets = nullptr;
     FramedBar* PlanetScroller = nullptr;
     ShapeFrame* outline = nullptr; ///< follows the pointer with a dragged planet
-    std::optional<Journey> journey;
+    Journey journey;
 };
 
 } // namespace ksm

@@ -38,7 +38,7 @@ bool PlanetBoard::IsBare(const QWidget* control) const {
 
 void PlanetBoard::BeginDragging(int row, QPoint grip) {
     PutBack();
-    journey = {.ByMouse = true, .Row = row, .Tag = Row(row).Tag(), .Grip = grip};
+    journey = {.By = Journey::Way::Mouse, .Row = row, .Tag = Row(row).Tag(), .Grip = grip};
     qApp->installEventFilter(this);
     MoveOutline(Row(row).Name().mapToGlobal(grip));
 }
@@ -47,8 +47,8 @@ void PlanetBoard::MoveOutline(QPoint global) {
     if (!outline) {
         outline = new ShapeFrame("DragOutline", QRect(), 0, window());
     }
-    const QPoint corner = window()->mapFromGlobal(global - journey->Grip);
-    outline->setGeometry({corner, Row(journey->Row).Name().size()});
+    const QPoint corner = window()->mapFromGlobal(global - journey.Grip);
+    outline->setGeometry({corner, Row(journey.Row).Name().size()});
     outline->show();
     outline->raise();
 }
@@ -67,7 +67,7 @@ void PlanetBoard::DropAt(QPoint global) {
     if (!IsDragging()) {
         return;
     }
-    const int tag = journey->Tag;
+    const int tag = journey.Tag;
     StopDragging();
     const QWidget* control = SeenAt(global);
     const int owner = OwnerOf(control);
@@ -92,7 +92,7 @@ bool PlanetBoard::eventFilter(QObject* watched, QEvent* event) {
         const bool opened = event->type() == QEvent::Show && control->isWindow() &&
                             control->windowType() != Qt::ToolTip;
         const bool released =
-            event->type() == QEvent::MouseButtonRelease && control != &Row(journey->Row).Name();
+            event->type() == QEvent::MouseButtonRelease && control != &Row(journey.Row).Name();
         if (opened || released || event->type() == QEvent::WindowBlocked) {
             CancelDrag();
         }
@@ -103,7 +103,7 @@ bool PlanetBoard::eventFilter(QObject* watched, QEvent* event) {
 void PlanetBoard::StopDragging() {
     qApp->removeEventFilter(this);
     outline->hide();
-    journey.reset();
+    journey = {};
 }
 
 void PlanetBoard::CancelDrag() {
@@ -112,9 +112,9 @@ void PlanetBoard::CancelDrag() {
 }
 
 void PlanetBoard::InvasionPlayer_DragOver(int owner) {
-    journey->Over = owner;
+    journey.Over = owner;
     const GameView before = state.View;
-    MarkDragOver(state.View, owner, journey->Row);
+    MarkDragOver(state.View, owner, journey.Row);
     if (state.View != before) {
         emit Changed();
     }
@@ -139,12 +139,12 @@ void PlanetBoard::InvasionPic_DragDrop() {
 
 void PlanetBoard::PickUpOrSetDown(int row) {
     if (IsCarrying()) {
-        const Journey ended = *journey;
-        journey.reset();
+        const Journey ended = journey;
+        journey = {};
         InvasionPlayer_DragDrop(ended.Over, ended.Tag);
     } else if (!IsDragging() && Row(row).Tag() < state.Game.NumPlanets) {
         Row(row).Name().setFocus();
-        journey = {.ByMouse = false, .Row = row, .Tag = Row(row).Tag()};
+        journey = {.By = Journey::Way::Keyboard, .Row = row, .Tag = Row(row).Tag()};
         Carry(+1);
     }
 }
@@ -152,11 +152,9 @@ void PlanetBoard::PickUpOrSetDown(int row) {
 void PlanetBoard::Carry(int step) {
     // Over the owners in the game, the pool first, round and round; never to the listed owner.
     const int owners = state.Game.NumPlayers + 1;
-    int next = journey->Over;
-    do {
-        next = (next + step + owners) % owners; // first from -1 to the pool
-    } while (next == state.View.BoardPlayer);
-    InvasionPlayer_DragOver(next);
+    const auto behind = [&](int owner) { return (owner + step + owners) % owners; };
+    const int next = behind(journey.Over); // first from -1 to the pool
+    InvasionPlayer_DragOver(next == state.View.BoardPlayer ? behind(next) : next);
 }
 
 void PlanetBoard::PutBack() {
@@ -168,21 +166,21 @@ void PlanetBoard::PutBack() {
 
 void PlanetBoard::StopCarrying() {
     if (IsCarrying()) {
-        journey.reset();
+        journey = {};
         UnmarkAll(state.View);
     }
 }
 
 void PlanetBoard::ShowJourney() {
     // Another game came, which has no mark of it.
-    if (IsCarrying() && !state.View.MarkedRows[static_cast<std::size_t>(journey->Row)]) {
-        journey.reset();
+    if (IsCarrying() && !state.View.MarkedRows[static_cast<std::size_t>(journey.Row)]) {
+        journey = {};
     }
     for (int row = 0; row < BoardRowCount; ++row) {
-        const bool isCarried = IsCarrying() && journey->Row == row;
-        Row(row).SetNote(
-            isCarried ? ", over " + QString::fromStdString(OwnerName(state.Game, journey->Over))
-                      : QString());
+        const bool isCarried = IsCarrying() && journey.Row == row;
+        Row(row).SetNote(isCarried ? ", over " +
+                                         QString::fromStdString(OwnerName(state.Game, journey.Over))
+                                   : QString());
     }
 }
 

@@ -12,6 +12,7 @@ namespace {
 
 TEST(MainWindow, EveryFigureIsExplainedToItsPlayer) {
     const GameWindow game;
+    game.SetPlayers(MaxPlayers);
     const Game& state = game.state.Game;
     for (const int player : {1, 10}) {
         const std::string number = std::to_string(player);

@@ -75,6 +75,7 @@ TEST(Windows, SayWhatTheirControlsAre) {
     InstallAccessibleNames();
     for (const auto& [item, control, name] : rows) {
         const GameWindow game;
+        game.SetPlayers(MaxPlayers);
         *item != '\0' ? game.Choose(item) : void();
         const auto* said = QAccessible::queryAccessibleInterface(game.Find<QWidget>(control));
         EXPECT_EQ(said->text(QAccessible::Name), name);
