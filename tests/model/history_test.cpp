@@ -14,18 +14,6 @@ struct Steps {
         state.Game.Player(1).SpaceDocks = docks;
         history.Record(state.Game);
     }
-    void Select(TradeMode mode, int first) {
-        state.Game.TradeMode = mode;
-        state.Game.TradeFirst = first;
-        history.Record(state.Game);
-    }
-    void Load(int docks, const std::string& notes) {
-        const std::string before = state.NotesText;
-        state.Game.Player(1).SpaceDocks = docks;
-        state.NotesText = notes;
-        history.RecordLoad(state, before);
-        history.Record(state.Game); // as every change is
-    }
     /// The docks at each step, from the last one back to the beginning.
     std::vector<int> Back() {
         std::vector<int> docks{state.Game.Player(1).SpaceDocks};
@@ -47,22 +35,11 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
     for (const auto& [deeds, docks] : rows) {
         Steps steps;
         for (const char deed : std::string_view(deeds)) {
-            switch (deed) {
-            case '{':
-                steps.history.BeginStep();
-                break;
-            case '}':
-                steps.history.EndStep();
-                break;
-            case '~':
-                steps.history.ResumeStep();
-                break;
-            case '<':
-                steps.history.Undo(steps.state);
-                break;
-            default:
-                steps.Docks(deed - '0');
-            }
+            deed == '{'   ? steps.history.BeginStep()
+            : deed == '}' ? steps.history.EndStep()
+            : deed == '~' ? steps.history.ResumeStep()
+            : deed == '<' ? steps.history.Undo(steps.state)
+                          : steps.Docks(deed - '0');
         }
         EXPECT_FALSE(steps.history.CanRedo());
         EXPECT_EQ(steps.Back(), docks) << deeds;
@@ -71,9 +48,10 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
 
 TEST(History, ALoadIsAStepOfItsOwnAndTakesItsNotesAlong) {
     Steps steps;
-    steps.state.NotesText = "mine";
     steps.Docks(2);
-    steps.Load(5, "theirs");
+    steps.state.NotesText = "theirs";
+    steps.state.Game.Player(1).SpaceDocks = 5;
+    steps.history.RecordLoad(steps.state, "mine");
     for (const auto& [notes, undone] :
          {std::pair{"theirs", "mine"}, std::pair{"typed since", "typed since"}}) {
         steps.state.NotesText = notes;
@@ -84,27 +62,6 @@ TEST(History, ALoadIsAStepOfItsOwnAndTakesItsNotesAlong) {
         steps.history.Redo(steps.state);
         EXPECT_EQ(steps.state.NotesText, notes);
     }
-    steps.Load(5, "other notes");
-    steps.Load(5, "other notes"); // which is the same
-    EXPECT_EQ(steps.Back(), (std::vector{5, 5, 2, 1}));
-}
-
-TEST(History, ASelectionBelongsToTheStepThatBeganItButNotToALoad) {
-    Steps steps;
-    steps.state.Game.TradeMode = TradeMode::AddFirst;
-    steps.Load(5, "");
-    steps.Select(TradeMode::AddPartner, 3);
-    steps.state.Game.Cell(3, 5) = Agreement;
-    steps.Select(TradeMode::Idle, 3);
-    EXPECT_EQ(steps.history.UndoTexts(10),
-              (std::vector<std::string>{"agreement of Player 3 and Player 5", "Load Game"}));
-    EXPECT_EQ(steps.history.UndoTexts(1).size(), 1U);
-    steps.history.Undo(steps.state);
-    EXPECT_EQ(steps.state.Game.TradeMode, TradeMode::AddFirst);
-    steps.Docks(4);
-    EXPECT_FALSE(steps.history.CanRedo());
-    steps.history.Restart(steps.state.Game);
-    EXPECT_EQ(steps.history.UndoText() + steps.history.RedoText(), "");
 }
 
 } // namespace

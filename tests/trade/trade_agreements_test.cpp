@@ -47,29 +47,20 @@ constexpr auto NotAllowed = "P7 and P2 are not allowed to trade with eachother";
 const std::vector<ClickCase> ClickCases{
     {{3}, "\r\nPress Add to make a Trade Agreement", Idle},
     {{Add, 3, 3}, "P3 makes Trade Agreement with...", AddPartner},
-    {{Add, 3, Add}, "P3 makes Trade Agreement with...", AddPartner},
     {{Add, 3, 5}, "P5 and P3 make a TA", Idle, {{3, 5}}},
     {{Add, 3, 5, Add, 5, 3}, "P3 and P5 already have a TA", Idle, {{3, 5}}},
     {{Remove}, "There are no Trade Agreements to remove.", Idle},
     {{Add, 3, 5, Remove}, "\r\nSelect first player...", RemoveFirst, {{3, 5}}},
-    {{Add, 3, 5, Remove, 5, 5}, "P5 breaks Trade Agreement with...", RemovePartner, {{3, 5}}},
     {{Add, 3, 5, Remove, 5, 3}, "P3 and P5 break their TA", Idle},
     {{Add, 3, 5, Remove, 2, 4}, "P4 & P2 don't have a TA to break", Idle, {{3, 5}}},
-    {{Add}, "\r\nSelect first player...", AddFirst},
-    {{Tres}, "Select First Player...", IndependenceFirst},
     {{Tres, 2, 7, Add, 7, 2}, "P2 and P7 are not allowed to trade with eachother", Idle},
     {{Add, 7, 2, Tres, 2, 7}, NotAllowed, Idle},
-    {{TRestr}, "\r\nTRADE RESTRICTIONS!", Idle},
-    {{TFree}, "\r\n\r\nFREE TRADE!", Idle},
     {{Tres, 2, 2, Add, 2, 7}, "P7 and P2 make a TA", Idle, {{2, 7}}},
-    {{Tres, 2, 7, Tres}, "Forced Economic Independance dissolved.", Idle},
     {{Tres, 2, 7, Tres, Add, 2, 7}, "P7 and P2 make a TA", Idle, {{2, 7}}},
     // A law switched on abandons the selection; dissolved while choosing, the choice goes on.
     {{Add, 4, Tres, 2}, "P2 is not allowed to trade with...", IndependenceSecond},
-    {{Tres, Tres, 2, 7, Add, 2, 7}, NotAllowed, Idle},
     {{Tres, 2, Tres, 7}, "P7 and  are not allowed to trade with eachother", Idle},
     {{Add, 1, 2, Add, 4, 3, TStop}, "\r\n\r\nTRADE STOP!", Idle},
-    {{Tres, 2, 7, TStop, Add, 2, 7}, NotAllowed, Idle},
     {{TFree, TFree}, "\r\n\r\nFree Trade ends.", Idle},
     {{TRestr, TRestr}, "\r\nTrade Restrictions dissolved.", Idle},
     {{Add, 1, 2, Add, 4, TStop}, "\r\n\r\nTRADE STOP!", AddPartner},
@@ -93,15 +84,10 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
 }
 
 TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
-    EXPECT_EQ(TradeCountSentence(0), "There are no Trade Agreements in play.");
-    EXPECT_EQ(TradeCountSentence(1), "There is one Trade Agreement in play.");
-    EXPECT_EQ(TradeCountSentence(45), "There are 45 Trade Agreements in play.");
     Game game = NamedPlayers();
     game.Cell(3, 10) = game.Cell(1, 3) = Agreement;
-    game.IndepFirst = game.IndepSecond = 3; // a pair that binds nobody
-    EXPECT_EQ(TradeText(game, 3), "P3 trades with P1, P10");
+    game.IndepFirst = 3;
     game.IndepSecond = 4;
-    EXPECT_EQ(TradeText(game, 2), "P2 has no Trade Agreement");
     game.Laws.FreeTrade = true;
     EXPECT_EQ(TradeText(game, 3),
               "P3 trades with P1, P10\nFree Trade: five credits for each partner\n"
