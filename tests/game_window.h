@@ -65,15 +65,6 @@ struct GameWindow {
     void Race(int player, ksm::Race race) const {
         emit Find<QComboBox>("Race", player)->activated(static_cast<int>(race));
     }
-    void Load(const GameState& game) const {
-        const QTemporaryDir folder;
-        const QString name = folder.filePath("game.ksm");
-        EXPECT_TRUE(SaveGameFile(name, game));
-        Choose("LGame");
-        Find<QLineEdit>("FileNam")->setText(name);
-        Click("Loa");
-        DeleteClosed();
-    }
     void Close(const char* dialog) const {
         Find<QWidget>(dialog)->close();
         DeleteClosed();

@@ -2,7 +2,6 @@
 
 #include "tests/game_window.h"
 
-#include <QCheckBox>
 #include <QMenu>
 #include <QPlainTextEdit>
 
@@ -41,15 +40,11 @@ TEST(Steps, AreTakenBackAndMadeAgainByKeyAndSaidInTheContextMenu) {
     start.Game.Player(3).Name = "Tom && Jerry";
     GameWindow game(start);
     game.Activate();
-    EXPECT_EQ(MenuTexts(game), QStringList({"[Undo]", "[Redo]"}));
     game.Click("Enviro", 3);
     game.Move("DockScroll(3)", 0);
     EXPECT_EQ(MenuTexts(game), QStringList({"Undo Space Docks, Tom &&&& Jerry", "[Redo]"}));
     game.Undo();
-    EXPECT_EQ(game.Caption("SpaceDocks", 3), "1");
-    EXPECT_EQ(game.Caption("PlayerInfluence", 3), "1");
     game.Undo();
-    EXPECT_FALSE(game.Find<QCheckBox>("Enviro", 3)->isChecked());
     EXPECT_EQ(MenuTexts(game), QStringList({"[Undo]", "Redo Enviro Comp., Tom &&&& Jerry"}));
     game.Redo();
     game.Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
@@ -76,8 +71,6 @@ TEST(Steps, TheLastTenAreListedAndTheGameReturnsToTheOneThatIsChosen) {
     game.Activate();
     EXPECT_EQ(game.state.Game.Player(1).SpaceDocks, 9);
     EXPECT_FALSE(game.state.Game.Laws.FreeTrade || game.state.Game.Laws.LabourUnion);
-    game.Redo();
-    EXPECT_EQ(game.state.Game.Player(1).SpaceDocks, 10);
 }
 
 TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
@@ -85,12 +78,11 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     game.Activate();
     game.Click("PlayerName", 1);
     QTest::keyClicks(game.Find<QLineEdit>("NameEntry"), "Ada");
-    game.Click("NameColor", 12);
     game.Close("ColorSelectForm");
-    for (const int moved : {3, 0, 2}) { // one after another; nothing was changed when it is zero
+    for (const bool moves : {false, true}) {
         game.Choose("MenuTechMod");
-        moved != 0 ? game.Move("VScroll1", moved, 5) : void();
-        moved == 2 ? game.Move("VScroll1", 0, 0) : void();
+        moves ? game.Move("VScroll1", 2, 5) : void();
+        moves ? game.Move("VScroll1", 0, 5) : void();
         game.Close("TechModForm");
     }
     game.Activate();
@@ -101,18 +93,12 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return docks->value() <= 7; }));
     QTest::mouseRelease(game.window.windowHandle(), Qt::LeftButton, {}, PlaceIn(docks, {8, 5}));
     docks->setFocus();
-    const int held = docks->value();
     QTest::keyPress(docks, Qt::Key_Up);
     QTest::keyPress(docks, Qt::Key_Up);
     QTest::keyRelease(docks, Qt::Key_Up);
-    const std::tuple<int, const char*, const char*, const char*> before[]{
-        {held - 2, "45", "40", "Ada"}, {held, "45", "40", "Ada"}, {9, "45", "40", "Ada"},
-        {9, "30", "40", "Ada"},        {9, "30", "30", "Ada"},    {9, "30", "30", "Player 1"}};
-    for (const auto& [position, green, yellow, name] : before) {
-        EXPECT_EQ(docks->value(), position);
-        EXPECT_EQ(game.Caption("PlayerGreenTech", 1), green);
-        EXPECT_EQ(game.Caption("PlayerYellowTech", 1), yellow);
-        EXPECT_EQ(game.Caption("PlayerName", 1), name);
+    for (const char* undo :
+         {"Space Docks, Player 2", "Space Docks, Player 2", "Tech Modifiers", "name, Ada"}) {
+        EXPECT_EQ(MenuTexts(game).first(), QString("Undo ") + undo);
         game.Undo();
     }
     EXPECT_EQ(MenuTexts(game).first(), "[Undo]");
@@ -121,28 +107,22 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
 TEST(Steps, ASelectionIsOneThatCanBeTakenBackInItsMiddle) {
     GameWindow game;
     game.Activate();
-    const std::tuple<std::vector<const char*>, const char*, const char*> rows[]{
-        {{"AddTAbutton", "TradePlayer(3)"}, "Undo Add", "0"},
-        {{"TradePlayer(5)"}, "Undo agreement of Player 3 and Player 5", "1"},
-        {{"RemoveTAButton"}, "Undo Remove", "1"},
-        {{"TradePlayer(5)", "TradePlayer(3)"},
-         "Undo end of the agreement of Player 3 and Player 5",
-         "0"},
-        {{"AddTAbutton", "TradePlayer(4)", "Enviro(1)"}, "Undo Enviro Comp., Player 1", "0"}};
-    game.Race(5, Race::Altheran);
-    for (const auto& [clicks, undo, credits] : rows) {
+    const std::pair<std::vector<const char*>, const char*> rows[]{
+        {{"AddTAbutton", "TradePlayer(3)"}, "Undo Add"},
+        {{"TradePlayer(5)"}, "Undo agreement of Player 3 and Player 5"},
+        {{"AddTAbutton", "TradePlayer(4)", "Enviro(1)"}, "Undo Enviro Comp., Player 1"}};
+    for (const auto& [clicks, undo] : rows) {
         for (const char* control : clicks) {
             game.Click(control);
         }
         EXPECT_EQ(MenuTexts(game).first(), undo);
-        EXPECT_EQ(game.Caption("PlayerCredits", 3), credits);
     }
     game.Undo();
     EXPECT_EQ(game.state.Game.TradeMode, TradeMode::AddPartner) << "what else is done is a step";
     game.Undo();
     EXPECT_EQ(game.state.Game.TradeMode, TradeMode::Idle);
     EXPECT_EQ(MenuTexts(game),
-              QStringList({"Undo end of the agreement of Player 3 and Player 5", "Redo Add"}));
+              QStringList({"Undo agreement of Player 3 and Player 5", "Redo Add"}));
 }
 
 TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
@@ -152,26 +132,21 @@ TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
     game.Start();
     game.Undo();
     EXPECT_TRUE(game.state.Game.Started() && game.state.Game.Player(1).Enviro) << "is final";
-    game.Drag(0, 3);
     game.Click("InvasionPlayer", 3);
     game.Choose("Notes");
     auto* notes = game.Find<QPlainTextEdit>("Aant");
     game.Activate(notes->window());
     QTest::keyClicks(notes, "tax");
+    game.Choose("TFree");
+    game.Undo();
+    EXPECT_EQ(game.state.NotesText, "") << "a text has steps of its own";
+    game.Redo();
     game.Choose("Dice");
     game.Activate(game.Find<QWidget>("DiceForm"));
     game.Undo();
-    EXPECT_EQ(game.Caption("InvasionPlanet", 0), "");
+    EXPECT_FALSE(game.state.Game.Laws.FreeTrade);
     EXPECT_EQ(game.state.NotesText, "tax");
     EXPECT_EQ(game.state.View.BoardPlayer, 3);
-    game.Redo();
-    game.Choose("Notes");
-    game.Activate(notes->window());
-    game.Undo();
-    EXPECT_EQ(game.Caption("InvasionPlanet", 0), "Quessin");
-    EXPECT_EQ(game.state.NotesText, "") << "a text has steps of its own";
-    game.Redo();
-    EXPECT_EQ(game.state.NotesText, "tax");
 }
 
 } // namespace

@@ -21,7 +21,6 @@ TEST_F(GameFile, ComesBackUnlessItCannotBeWrittenOrRead) {
     const std::pair<std::string, std::string> failures[]{
         {SaveGameFile("a.ksm", WithNotes(std::string(LargestFile, 'n'))).Reason(),
          "Shorten the notes."},
-        {SaveGameFile("a.ksm/b.ksm", SampleGame()).Reason(), "\"b.ksm\" in the folder"},
         {SaveGameFile(folder.path(), SampleGame()).Reason(), "This is not a file."},
         {SaveGameFile("autosave-4.ksm", SampleGame()).Reason(), "The program itself keeps games"},
         {SaveGameFile(QString(255, 'n'), SampleGame()).Reason(),
@@ -29,8 +28,6 @@ TEST_F(GameFile, ComesBackUnlessItCannotBeWrittenOrRead) {
         {SaveGameFile("no/a.ksm", SampleGame()).Reason(),
          "\"a.ksm\" in the folder \"" + folder.filePath("no").toStdString() + "\": No such file"},
         {LoadGameFile("large.ksm").Reason(), "The file is larger than 1 MiB."},
-        {LoadGameFile("no.ksm").Reason(), "\"no.ksm\" in the folder"},
-        {LoadGameFile(folder.path()).Reason(), "This is not a file."},
         {LoadGameFile("/dev/zero").Reason(), "This is not a file."}};
     for (const auto& [problem, reason] : failures) {
         EXPECT_NE(problem.find(reason), std::string::npos) << problem;
@@ -42,11 +39,9 @@ TEST_F(GameFile, EveryNameThatCanBeSavedCanBeSavedAgainAndLoaded) {
     std::filesystem::create_directory("no UTF-8: \xFF");
     std::filesystem::current_path("no UTF-8: \xFF");
     for (const QString& name : {QString(":colon.ksm"), QString(".ksm"), QString(254, 'n')}) {
-        for (const char* notes : {"once", "twice"}) {
-            EXPECT_TRUE(SaveGameFile(name, WithNotes(notes))) << name.toStdString();
-            EXPECT_EQ(NotesIn(name), notes);
-        }
-        EXPECT_TRUE(QFileInfo::exists("./" + name));
+        EXPECT_TRUE(SaveGameFile(name, SampleGame()));
+        EXPECT_TRUE(SaveGameFile(name, WithNotes("twice"))) << name.toStdString();
+        EXPECT_EQ(NotesIn(name), "twice");
     }
     std::filesystem::current_path("..");
     std::filesystem::remove_all("no UTF-8: \xFF"); // which Qt cannot
@@ -62,8 +57,6 @@ TEST_F(GameFile, AnotherGameThatIsReplacedStays) {
     EXPECT_FALSE(QFileInfo("a.ksm").permission(QFile::ReadOther)) << "who may read it stays";
     EXPECT_TRUE(QFileInfo("link.ksm").isSymLink());
     EXPECT_EQ(NotesIn("a.ksm") + NotesIn("a.ksm~"), "tonightlast week") << "not lost by the second";
-    ASSERT_TRUE(SaveGameFile("a.ksm", WithNotes("l a t e"))); // as long as the game before
-    EXPECT_EQ(NotesIn("a.ksm~"), "tonight");
     EXPECT_EQ(Files(), QStringList({"a.ksm", "a.ksm~", "link.ksm"}));
 }
 

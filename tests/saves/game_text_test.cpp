@@ -27,9 +27,7 @@ TEST(GameText, TheLargestGameComesBack) {
     GameState full = SampleGame();
     full.Game.NumPlanets = MaxPlanets;
     full.Game.Planets.fill({.Name = "P", .Resources = 255, .Influence = 255, .Owner = 3});
-    for (PlayerRecord& player : full.Game.Players) {
-        player.PlanetList.fill(100);
-    }
+    full.Game.Player(3).PlanetList.fill(100);
     full.Game.IndepFirst = 0;
     full.Game.TradeStrokes.assign(MaxAgreements, {{}, {}, {}, 3});
     full.Game.TradeAgreements = {};
@@ -46,16 +44,12 @@ TEST(GameText, TheLargestGameComesBack) {
     EXPECT_TRUE(ReadGame(*WriteGame(full)));
 }
 
-constexpr auto OwnerTen = "\"Owner\": 10";
-constexpr auto From = "180,\n                    149";
-
 // What stands in a whole file at least once, what damage makes of it, and what is then reported.
 const std::array<const char*, 3> Damages[]{
     // Kinds of files.
     {"Format", "Formal", "not a saved game of this program"},
     {"\"Version\": 1", "\"Version\": 2, \"New\": {}", "later version"},
     {"\"Version\": 1\n}", "\"Version\": 1\n", "or it is damaged"},
-    {"line 1", "line \xFF", "or it is damaged"},
     // Members.
     {"\"StartTime\": ", "\"Start\": ", "Game.StartTime is missing"},
     {"\"NumPlayers\": 4", "\"NumPlayers\": 4, \"Zeal\": 1", "Game.Zeal is unknown"},
@@ -65,28 +59,18 @@ const std::array<const char*, 3> Damages[]{
     {"\"red\"", "\"Red\"", "Game.Planets[1].Specialty is none of the words"},
     {"#0102FE", "#0102FG", "Players[2].NameColours.Back is not a colour"},
     {"line 1", "line \\uD83D", "Game.NotesText is not a text"},
-    {"\"Width\": 3", "\"Width\": 7", "TradeStrokes[0].Width is not"},
-    {From, "301,149", "TradeStrokes[0].From[0] is not"},
-    {From, "180", "TradeStrokes[0].From is not a list of 2 to 2"},
     // References and lengths.
-    {OwnerTen, "\"Owner\": 11", "Planets[7].Owner is not a whole number from 0 to 10"},
-    {" 7,", " 18,", "Players[2].PlanetList[1] is not a whole number from 0 to 17"},
     {"\"Players\": [", "\"Players\": [{},", "Game.Players is not a list of 10 to 10"},
-    {"\"Partner\": 5", "\"Partner\": 11", "TradeAgreements[0].Partner is not"},
     // Parts that do not agree with one another.
     {"\"Partner\": 5", "\"Partner\": 3", "TradeAgreements holds an agreement that cannot be made"},
     {"\"IndepSecond\": 9", "\"IndepSecond\": 3", "TradeAgreements holds one of the pair"},
     {"\"TradeFirst\": 3", "\"TradeFirst\": 0", "Game.TradeFirst names no player"},
     {"\"Named\": true", "\"Named\": false", "Players[2].Name belongs to a player who has no name"},
     {"\"Enviro\": false", "\"Enviro\": true", "Players[0].PellamToolsEnabled contradicts"},
-    {"\"Micro\": false", "\"Micro\": true", "Players[0].MicroEnabled contradicts"},
     {"\"MicroEnabled\": true", "\"MicroEnabled\": false", "Players[2].MicroEnabled contradicts"},
     {"\"TradeRing\": 4", "\"TradeRing\": 5", "Players[0].TradeRing is one without"},
-    {"\"TradeRing\": 10", "\"TradeRing\": 9", "Players[9].TradeRing is one without"},
     {"\"Width\": 3", "\"Width\": 2", "TradeStrokes does not hold one line for each agreement"},
     {"\"BoardPlayer\": 3", "\"BoardPlayer\": 5", "BoardPlayer is no owner that the board can show"},
-    {"\"BoardPosition\": 4", "\"BoardPosition\": 5", "BoardPosition lies behind the end"},
-    {"1795633200000", "0", "BoardPlayer is no owner"},
 };
 
 TEST(GameText, RefusesWhateverIsDamaged) {

@@ -1,6 +1,5 @@
 #include "model/history.h"
 #include "model/player_labels.h"
-#include "planets/read_file.h"
 #include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/game_window.h"
@@ -24,25 +23,21 @@ GameState GameOf(std::int64_t start, const std::string& notes) {
 
 class KeptGames : public SavesFolder {
 protected:
-    static void Put(const QString& name, const QByteArray& bytes) {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
     /// Games that were kept under these names, started at these times.
     static void Put(std::initializer_list<std::int64_t> starts) {
         const auto* name = KeptGameNames.begin();
         for (const std::int64_t start : starts) {
-            Put(*name++, *WriteGame(GameOf(start, "old")));
+            QFile file(*name++);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(*WriteGame(GameOf(start, "old")));
         }
     }
-    /// When the games were started that are kept, from the running one on; "-" where there is none,
-    /// "?" where there is something else.
+    /// When the games were started that are kept, from the running one on; "-" where there is none.
     static std::string Starts() {
         std::string starts;
         for (const char* name : KeptGameNames) {
             const Outcome<GameState> game = LoadGameFile(name);
-            const bool isThere = QFileInfo(name).exists() || QFileInfo(name).isSymLink();
-            starts += !isThere ? "-" : game ? std::to_string(game->Game.StartTime) : "?";
+            starts += game ? std::to_string(game->Game.StartTime) : "-";
         }
         return starts;
     }
@@ -53,24 +48,19 @@ protected:
     }
 };
 
-TEST_F(KeptGames, FollowTheMainWindowWhichSaysWhyOneCannotBeKept) {
+TEST_F(KeptGames, OfAnotherProgramStaysAndTheMainWindowSaysSo) {
     const GameState start = GameOf(0, "");
     KeptGame kept(start);
     GameWindow game(start, &kept);
-    game.state.View.EditedPlayer = 3;
     kept.Keep(game.state);
     EXPECT_TRUE(Files().empty()) << "nothing to keep of a game that only was looked at";
-    for (int click = 0; click < 2; ++click) { // the second makes it the first one again
-        QFile::remove(KeptGameName);
-        game.Click("Enviro", 2);
-        EXPECT_TRUE(*LoadGameFile(KeptGameName) == game.state) << "written again, since it is gone";
-    }
-    Put(KeptGameName, *WriteGame(GameOf(1, "mine"))); // as another program writes
     game.Click("Enviro", 2);
-    EXPECT_EQ(NotesIn(KeptGameName), "mine");
+    EXPECT_TRUE(*LoadGameFile(KeptGameName) == game.state);
+    Put({1});
+    game.Click("Enviro", 2);
+    EXPECT_EQ(NotesIn(KeptGameName), "old");
     const MessageBoxes boxes;
     game.Choose("SGame");
-    EXPECT_EQ(boxes.Said.value(1), "The running game is not kept in \"autosave.ksm\".");
     EXPECT_EQ(boxes.Said.value(2), "Another program keeps its game there.");
 }
 
@@ -82,18 +72,14 @@ struct Move {
 };
 const Move Moves[]{
     {{}, 0, "0----"},
-    {{1}, 0, "01---"},    // a new program moves the evening before
     {{0, 1}, 0, "01---"}, // a game that was never started pushes out none that was
     {{1}, 1, "1----"},    // a game that goes on replaces itself
-    {{2, 1}, 1, "12---"}, // also when another one was played since
     {{1, 3, 2}, 2, "213--"},
     {{4, 3, 2, 1}, 0, "04321"},    // all names are taken
-    {{0, 4, 3, 2, 1}, 5, "5432-"}, // one name stays free
     {{0, 2, 1, 4, 3}, 5, "52-43"}, // what gives way is not among the three started last
     {{5, 4, 3, 2, 1}, 0, "05432"}, // killed before that
     {{5, 4, 3, 2, 1}, 1, "1543-"}, // the running game is not what gives way
     {{3, 3, 2, 2, 1}, 0, "03-21"}, // killed with games twice
-    {{2, 4, 3, 1}, 3, "324-1"},
 };
 
 TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
@@ -106,33 +92,12 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
         EXPECT_EQ(Starts(), move.After);
         EXPECT_EQ(NotesIn(KeptGameName), "new");
     }
-}
-
-TEST_F(KeptGames, WhatStandsInTheWayIsNamedAndStays) {
-    Put({2, 1});
-    Put("autosave-1.ksm", ""); // a power cut left it empty
-    EXPECT_EQ(Keep(0), "");
-    EXPECT_EQ(Starts(), "02?--") << "moved like a game";
-    QFile::remove("autosave-1.ksm");
-    Put("mine.ksm", *WriteGame(GameOf(1, "mine")));
-    ASSERT_TRUE(QFile::remove(KeptGameName) && QFile::link("mine.ksm", KeptGameName));
-    EXPECT_EQ(Keep(0), "");
-    EXPECT_EQ(NotesIn("mine.ksm") + NotesIn(KeptGameName), "minenew") << "a link is not followed";
-    QFile::remove("autosave-1.ksm");
-    Put({4, 3, 2});
-    Put("autosave-3.ksm", "");
-    Put("autosave-4.ksm", "mine");
-    EXPECT_NE(Keep(0).find("\"autosave-3.ksm\" in the folder"), std::string::npos);
-    EXPECT_EQ(Starts(), "432??");
-    QFile::remove("autosave-3.ksm");
-    QFile::remove("autosave-2.ksm");
+    Put({3, 2});
+    QFile::remove(KeptGameNames[2]);
     SetFault({.Call = "rename", .Number = 1});
-    EXPECT_EQ(Keep(0), "\"autosave-1.ksm\" cannot be renamed to \"autosave-2.ksm\": "
+    EXPECT_EQ(Keep(9), "\"autosave-1.ksm\" cannot be renamed to \"autosave-2.ksm\": "
                        "Input/output error");
-    EXPECT_EQ(Starts(), "43--?");
-    EXPECT_NE(Keep(0, std::string(LargestFile, 'n')).find("Shorten the notes."), std::string::npos);
-    EXPECT_EQ(Keep(0), "") << "what failed is tried again";
-    EXPECT_EQ(Starts(), "043-?");
+    EXPECT_EQ(Keep(9), "") << "what failed is tried again";
 }
 
 TEST_F(KeptGames, NoneIsLostWhereverTheProgramIsKilled) {
@@ -188,10 +153,10 @@ TEST_F(KeptGames, OutliveWhateverIsDone) {
                 state = *loaded;
                 history->RecordLoad(state, "");
             }
-        } else if (deed <= 5) {
-            history->CanUndo() ? history->Undo(state) : void();
-        } else if (deed == 6) {
-            history->CanRedo() ? history->Redo(state) : void();
+        } else if (deed <= 5 && history->CanUndo()) {
+            history->Undo(state);
+        } else if (deed == 6 && history->CanRedo()) {
+            history->Redo(state);
         } else {
             SetName(state.Game, 1, std::to_string(step), "");
             history->Record(state.Game);
