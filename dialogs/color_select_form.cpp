@@ -48,7 +48,7 @@ public:
     using QValidator::QValidator;
 
     State validate(QString& text, int&) const override {
-        static const QRegularExpression breaks("[\\p{Cc}\\p{Zl}\\p{Zp}]");
+        static const QRegularExpression breaks(R"([\p{Cc}\p{Zl}\p{Zp}])");
         text.replace(breaks, " ");
         return Acceptable;
     }

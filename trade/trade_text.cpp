@@ -21,12 +21,11 @@ std::string PartnersText(const Game& game, int player) {
 
 /// The other one of the pair under Economic Independence, 0 = none.
 int ForbiddenPartner(const Game& game, int player) {
-    if (game.IndepFirst == game.IndepSecond) {
-        return 0;
+    const bool isPair = game.IndepFirst != game.IndepSecond;
+    if (isPair && player == game.IndepFirst) {
+        return game.IndepSecond;
     }
-    return player == game.IndepFirst    ? game.IndepSecond
-           : player == game.IndepSecond ? game.IndepFirst
-                                        : 0;
+    return isPair && player == game.IndepSecond ? game.IndepFirst : 0;
 }
 
 } // namespace
