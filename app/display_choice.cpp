@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QGuiApplication>
-#include <QtGlobal>
 
 #include <cstdio>
 #include <cstdlib>

@@ -22,9 +22,6 @@ namespace ksm {
 
 namespace {
 
-/// Figures of five digits fit in this face.
-constexpr int SmallestFigure = 8;
-
 struct FigureDesign {
     const char* Name = "";
     const char* Heading = "";
@@ -100,7 +97,7 @@ void PlayerColumn::MakeFigures() {
         const auto figure = static_cast<Figure>(index);
         CaptionLabel* label = MakeLabel(design.Name, {0, design.Top, 25, design.Height});
         label->setFont(design.Bold ? BoldFont(FigureText) : PlainFont(FigureText));
-        label->SetSmallestText(SmallestFigure);
+        label->SetSmallestText(8); // in which figures of five digits fit
         label->SetExplanation([this, figure] { return ExplanationText(game, player, figure); });
         if (design.Colours) {
             label->SetColours(*design.Colours);

@@ -24,9 +24,7 @@ using Holdings = std::array<Holding, OwnerSlots>;
 int CountAgreements(const TradeTable& table) {
     int agreements = 0;
     for (const auto& row : table) {
-        for (const std::int16_t cell : row) {
-            agreements += cell != NoAgreement ? 1 : 0;
-        }
+        agreements += static_cast<int>(std::ranges::count(row, Agreement));
     }
     return agreements;
 }

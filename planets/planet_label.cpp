@@ -9,12 +9,6 @@
 
 namespace ksm {
 
-namespace {
-
-constexpr int RowHeight = 14;
-
-} // namespace
-
 PlanetLabel::PlanetLabel(const QString& objectName, QPoint place, QWidget* parent)
     : CaptionLabel(objectName, {place, QSize()}, parent) {
     setFocusPolicy(Qt::TabFocus);
@@ -26,6 +20,7 @@ void PlanetLabel::SetPlanet(const QString& name, int longest) {
     }
     longestName = longest;
     SetCaption(name);
+    constexpr int RowHeight = 14;
     // No letter is narrower than a pixel.
     const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(name.left(longest)));
     resize(width == 0 ? longest : std::min(width, longest), RowHeight);

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <iconv.h>
 #include <memory>
-#include <optional>
 #include <type_traits>
 
 namespace ksm {

@@ -17,14 +17,11 @@ PartnerSet TradePartners(const Game& game, int player) {
 }
 
 std::string TradeCountSentence(int agreements) {
-    switch (agreements) {
-    case 0:
-        return "There are no Trade Agreements in play.";
-    case 1:
+    if (agreements == 1) {
         return "There is one Trade Agreement in play.";
-    default:
-        return "There are " + std::to_string(agreements) + " Trade Agreements in play.";
     }
+    return "There are " + (agreements == 0 ? "no" : std::to_string(agreements)) +
+           " Trade Agreements in play.";
 }
 
 } // namespace ksm
