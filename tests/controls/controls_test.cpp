@@ -53,19 +53,6 @@ TEST(SpinBar, StepsOnceForAClickAKeyOrANotch) {
     }
 }
 
-TEST(SpinBar, RepeatsWhileHeldUntilThePointerLeaves) {
-    QWidget window;
-    SpinBar bar("Bar", QRect(0, 0, 17, 25), &window);
-    window.show();
-    bar.SetRange(0, 1000, 0);
-    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() >= 2; }, 5000));
-    QTest::mouseMove(window.windowHandle(), QPoint(8, 5));
-    const int left = bar.value();
-    QTest::qWait(300);
-    EXPECT_EQ(bar.value(), left);
-}
-
 struct InputGuards : testing::Test {
     InputGuards() {
         qApp->installEventFilter(&guard);

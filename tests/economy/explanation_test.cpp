@@ -66,7 +66,6 @@ TEST_F(Explanations, NameWhatAFigureIsMadeOf) {
     NumPlanets = 13;
     std::ranges::fill(LoadedPlanets(), PlanetRecord{"P", 2, 0, Specialty::None, 4});
     EXPECT_EQ(Text(Influence).substr(0, 36), "Influence 39 = 26 from planets\n+ 13 ");
-    EXPECT_EQ(Text(Figure::Planets), "Planets 13 = 13 planets (a click on the owner lists them)");
 }
 
 TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {

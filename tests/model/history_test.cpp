@@ -46,23 +46,5 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
     }
 }
 
-TEST(History, ALoadIsAStepOfItsOwnAndTakesItsNotesAlong) {
-    Steps steps;
-    steps.Docks(2);
-    steps.state.NotesText = "theirs";
-    steps.state.Game.Player(1).SpaceDocks = 5;
-    steps.history.RecordLoad(steps.state, "mine");
-    for (const auto& [notes, undone] :
-         {std::pair{"theirs", "mine"}, std::pair{"typed since", "typed since"}}) {
-        steps.state.NotesText = notes;
-        steps.history.Undo(steps.state);
-        EXPECT_EQ(steps.state.NotesText, undone);
-        EXPECT_EQ(steps.state.Game.Player(1).SpaceDocks, 2);
-        EXPECT_EQ(steps.history.RedoText(), "Load Game");
-        steps.history.Redo(steps.state);
-        EXPECT_EQ(steps.state.NotesText, notes);
-    }
-}
-
 } // namespace
 } // namespace ksm

@@ -16,7 +16,6 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     // A line feed alone ends no line, and counts as a blank in a number.
     {"Al\npha,1\n2,\n3", {"Al\npha", 12, 3, None}},
     // Encodings: valid UTF-8 stays, anything else is Windows-1252.
-    {"\xEF\xBB\xBFZo\xC3\xAB,1", {"Zo\xC3\xAB", 1, 0, None}},
     {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
     {"\xF4\x90\x80\x80", {"\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC", 0, 0, None}},
     // Numbers.
@@ -25,7 +24,6 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"N,-.5,--3,RED", {"N", 0, 0, Red}},
     {"N,.6,5.,r", {"N", 1, 5, Red}},
     {"N,1 \t2,1e1", {"N", 12, 10, None}},
-    {"N,25D-1,1.5E+1,g", {"N", 2, 15, Green}},
     {"N,1e-999,0e999", {"N", 0, 0, None}},
     {"N,&HfF,&o17", {"N", 255, 15, None}},
     {"N,&12,& H 1 2", {"N", 0, 18, None}},
