@@ -1,9 +1,6 @@
 // The windows that the menus open, and what they do to the main window.
 
-#include "controls/accessible_names.h"
 #include "tests/game_window.h"
-
-#include <QAccessible>
 
 namespace ksm {
 namespace {
@@ -46,23 +43,6 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
             game.Key(row.key);
             game.Close(row.form);
         }
-    }
-}
-
-// Names that only a screen reader says, of what shows no text or not enough.
-TEST(Windows, SayWhatTheirControlsAre) {
-    const std::tuple<const char*, const char*, const char*> rows[]{
-        {"", "PlayNumScroll", "Number of Players"},
-        {"MenuTechMod", "VScroll1(2)", "Red cost modifier"},
-        {"SGame", "FileNam", "Filename"},
-        {"Stech", "Label1(2)",
-         "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS"}};
-    InstallAccessibleNames();
-    for (const auto& [item, control, name] : rows) {
-        const GameWindow game;
-        *item != '\0' ? game.Choose(item) : void();
-        const auto* said = QAccessible::queryAccessibleInterface(game.Find<QWidget>(control));
-        EXPECT_EQ(said->text(QAccessible::Name), name);
     }
 }
 
