@@ -2,8 +2,6 @@
 
 #include "tests/game_window.h"
 
-#include <QMenu>
-
 namespace ksm {
 namespace {
 
@@ -61,19 +59,6 @@ TEST(Keys, ReturnDoesWhatSpaceDoes) {
         EXPECT_TRUE(game.state.Game.Started());
         EXPECT_EQ(game.Focused(), "") << "no neighbour of the button that went gets the focus";
     }
-}
-
-TEST(Keys, OfTheMainWindowWorkBesideIt) {
-    GameWindow game;
-    game.Choose("Dice");
-    auto* window = game.Find<QWidget>("DiceForm");
-    game.Activate(window);
-    game.Key(Qt::Key_F5);
-    game.Close("TechForm");
-    game.Activate(window);
-    game.Key(Qt::Key_L, Qt::AltModifier);
-    EXPECT_TRUE(game.Find<QMenu>("MenuLaws")->isVisible());
-    game.Find<QMenu>("MenuLaws")->close();
 }
 
 } // namespace

@@ -115,15 +115,6 @@ TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
         EXPECT_EQ(of(&label)->actionInterface()->actionNames().contains("Press"),
                   isShown && isEnabled);
     }
-    SpinBar docks("DockScroll(3)", QRect(0, 0, 17, 25), &window);
-    docks.SetRange(0, 10, 9);
-    docks.SetCount({.AtZero = 10, .Least = 0, .Most = 8});
-    docks.show();
-    QAccessibleValueInterface* value = of(&docks)->valueInterface();
-    EXPECT_EQ(value->currentValue(), 1) << "the count rather than the position";
-    EXPECT_EQ(value->maximumValue(), 8);
-    value->setCurrentValue(0);
-    EXPECT_EQ(docks.value(), 10);
 }
 
 } // namespace
