@@ -48,10 +48,6 @@ TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
     ChooseRace(game, 2, Race::IthVeran);
     EXPECT_EQ(PlanetsOf(game, 2), "Ith|Veran|Veran|") << "a name on the list twice";
     EXPECT_EQ(game.Player(1).RedCost, 40) << "whose planets are taken keeps the race";
-
-    game.Player(2).PellamTools = true;
-    ChooseRace(game, 2, Race::Khorrum);
-    EXPECT_TRUE(game.Player(2).PellamToolsEnabled) << "what is ticked stays";
 }
 
 } // namespace

@@ -104,11 +104,6 @@ TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
         UpdateValues(game);
         EXPECT_EQ(game, once) << "nothing is left over from an earlier run";
     }
-    Game game = TwoTraders();
-    game.Cell(1, 10) = Agreement;
-    UpdateValues(game);
-    EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, 1);
-    EXPECT_EQ(game.TradeCount, 2);
 }
 
 } // namespace
