@@ -2,8 +2,6 @@
 
 #include "tests/game_window.h"
 
-#include <QMenu>
-
 namespace ksm {
 namespace {
 
@@ -41,11 +39,6 @@ TEST(Keys, TabGoesFromGroupToGroupAndArrowsWithinOne) {
     for (const auto& [key, names] : rounds) {
         game.Focus(names.substr(0, names.find(' ')).c_str());
         EXPECT_EQ(Round(game, key), names);
-        game.Key(key);
-        const std::string left = game.Focused();
-        game.Key(Qt::Key_Tab);
-        game.Key(Qt::Key_Backtab);
-        EXPECT_EQ(game.Focused(), left) << "Tab comes back to where the arrows were";
     }
     game.Focus("InvasionPlanet(11)");
     game.Key(Qt::Key_Down);
@@ -66,31 +59,6 @@ TEST(Keys, ReturnDoesWhatSpaceDoes) {
         EXPECT_TRUE(game.state.Game.Started());
         EXPECT_EQ(game.Focused(), "") << "no neighbour of the button that went gets the focus";
     }
-}
-
-TEST(Keys, ARaceBoxPassesOnWhatTheMainWindowNeeds) {
-    GameWindow game;
-    game.Activate();
-    game.Click("Enviro", 1);
-    game.Focus("Race(2)");
-    game.Key(Qt::Key_X);
-    game.Undo();
-    EXPECT_FALSE(game.state.Game.Player(1).Enviro);
-    game.Key(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_FALSE(game.window.isVisible());
-}
-
-TEST(Keys, OfTheMainWindowWorkBesideIt) {
-    GameWindow game;
-    game.Choose("Dice");
-    auto* window = game.Find<QWidget>("DiceForm");
-    game.Activate(window);
-    game.Key(Qt::Key_F5);
-    game.Close("TechForm");
-    game.Activate(window);
-    game.Key(Qt::Key_L, Qt::AltModifier);
-    EXPECT_TRUE(game.Find<QMenu>("MenuLaws")->isVisible());
-    game.Find<QMenu>("MenuLaws")->close();
 }
 
 } // namespace

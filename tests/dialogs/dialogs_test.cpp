@@ -6,22 +6,6 @@
 namespace ksm {
 namespace {
 
-TEST(Dialogs, AddressesCannotBeChanged) {
-    const GameWindow game;
-    game.Choose("About");
-    const QPointer form(game.Find<QWidget>("AboutForm"));
-    for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
-        const QString address = box->text();
-        QGuiApplication::clipboard()->setText("x");
-        box->selectAll();
-        QTest::keySequence(box, QKeySequence::Paste);
-        QTest::keyClicks(box, "x");
-        EXPECT_EQ(box->text(), address);
-        QTest::keySequence(box, QKeySequence::Copy);
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), address);
-    }
-}
-
 TEST(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
     GameWindow game;
     for (const char* before : {"", "tax\né€\t😀"}) {

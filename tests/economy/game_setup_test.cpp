@@ -48,13 +48,6 @@ TEST(Races, AChoiceReleasesEveryPlanetAndTakesTheHomesFromWhoeverHasThem) {
     ChooseRace(game, 2, Race::IthVeran);
     EXPECT_EQ(PlanetsOf(game, 2), "Ith|Veran|Veran|") << "a name on the list twice";
     EXPECT_EQ(game.Player(1).RedCost, 40) << "whose planets are taken keeps the race";
-
-    game.Player(1).Micro = game.Player(2).PellamTools = true;
-    for (const int player : {1, 2}) {
-        ChooseRace(game, player, Race::Khorrum);
-        EXPECT_EQ(game.Player(player).PellamToolsEnabled, player == 2) << "what is ticked stays";
-        EXPECT_TRUE(game.Player(player).MicroEnabled);
-    }
 }
 
 } // namespace

@@ -86,14 +86,6 @@ const std::vector<ValueCase> ValueCases{
          four.YellowCost = 10;
      },
      {8, 5, 4, 10, 43, 13, 30, -5}},
-    {"discounts, at most the base cost",
-     [](Game& game, PlayerRecord& four) {
-         for (PlanetRecord& planet : game.LoadedPlanets()) {
-             planet.Resources = 41;
-         }
-         four.BlueCost = 40;
-     },
-     {164, 5, 4, 166, 0, 0, 0, 30}},
 };
 
 TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
@@ -112,11 +104,6 @@ TEST(UpdateValues, ComputesEveryFigureFromTheInputs) {
         UpdateValues(game);
         EXPECT_EQ(game, once) << "nothing is left over from an earlier run";
     }
-    Game game = TwoTraders();
-    game.Cell(1, 10) = Agreement;
-    UpdateValues(game);
-    EXPECT_EQ(game.Player(NeutralOwner).Figures.PlanetCount, 1);
-    EXPECT_EQ(game.TradeCount, 2);
 }
 
 } // namespace

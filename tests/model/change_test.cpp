@@ -39,11 +39,6 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](G& g) { g.Laws.LabourUnion = true; }, "Labour Union"},
         {[](G& g) { g.YellowModifier = 0; }, "Tech Modifiers"},
         {[](G& g) { g.Planet(0).Owner = g.Planet(1).Owner = 5; }, "Quessin to Emil and 1 more"},
-        {[](G& g) {
-             ChooseRace(g, 4, Race::Altheran);
-             g.Laws.LabourUnion = true;
-         },
-         "Altheran, Dora and 3 more"},
     };
     for (const auto& [change, words] : changes) {
         const Game before = NamedGame();

@@ -23,7 +23,6 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
     const std::tuple<int, int, int, int, int> rows[]{
         {20, AllPlanets, 8, 8, 19},
         {5, AllPlanets, 0, 0, 11}, // planets that are not there
-        {101, 10, 39, 78, 100},
         {4, NeutralOwner, 0, 1, NoPlanet}};
     for (const auto& [planets, owner, position, first, last] : rows) {
         const BoardRows listed = ListBoard(BoardGame(planets, owner, position));
