@@ -97,22 +97,22 @@ void Korvane::ConnectPanels() {
 }
 
 void Korvane::ConnectMenu() {
-    const std::pair<const char*, void (Korvane::*)()> handlers[]{
-        {"LGame", &Korvane::LGame_Click},
-        {"SGame", &Korvane::SGame_Click},
-        {"Quit", &Korvane::Quit_Click},
-        {"MenuOrlen", &Korvane::MenuOrlen_Click},
-        {"Notes", &Korvane::Notes_Click},
-        {"Dice", &Korvane::Dice_Click},
-        {"Stech", &Korvane::Stech_Click},
-        {"HTech", &Korvane::HTech_Click},
-        {"MenuTechMod", &Korvane::MenuTechMod_Click},
-        {"MenuLabour", &Korvane::MenuLabour_Click},
-        {"Tres", &Korvane::Tres_Click},
-        {"TFree", &Korvane::TFree_Click},
-        {"TRestr", &Korvane::TRestr_Click},
-        {"TStop", &Korvane::TStop_Click},
-        {"About", &Korvane::About_Click}};
+    constexpr std::array<std::pair<const char*, void (Korvane::*)()>, 15> handlers{
+        {{"LGame", &Korvane::LGame_Click},
+         {"SGame", &Korvane::SGame_Click},
+         {"Quit", &Korvane::Quit_Click},
+         {"MenuOrlen", &Korvane::MenuOrlen_Click},
+         {"Notes", &Korvane::Notes_Click},
+         {"Dice", &Korvane::Dice_Click},
+         {"Stech", &Korvane::Stech_Click},
+         {"HTech", &Korvane::HTech_Click},
+         {"MenuTechMod", &Korvane::MenuTechMod_Click},
+         {"MenuLabour", &Korvane::MenuLabour_Click},
+         {"Tres", &Korvane::Tres_Click},
+         {"TFree", &Korvane::TFree_Click},
+         {"TRestr", &Korvane::TRestr_Click},
+         {"TStop", &Korvane::TStop_Click},
+         {"About", &Korvane::About_Click}}};
     for (const auto& [item, handler] : handlers) {
         connect(menu->findChild<QAction*>(item), &QAction::triggered, this, handler);
     }

@@ -107,6 +107,19 @@ TEST(ShowGame, ShowsWhatWasPlayedTakenBackSavedAndLoadedAndOnlyReads) {
 
 using LoadedGames = SavesFolder;
 
+TEST_F(LoadedGames, TakeThePlaceOfAnyOther) {
+    SaveGameFile("sample.ksm", SampleGame());
+    SaveGameFile("new.ksm", GameOfTwentyPlanets());
+    GameWindow game;
+    for (const char* name : {"sample.ksm", "new.ksm", "sample.ksm"}) {
+        game.Load(name);
+        const GameState loaded = *LoadGameFile(name);
+        EXPECT_TRUE(game.state == loaded);
+        GameWindow made(loaded);
+        ExpectSame(game, made);
+    }
+}
+
 TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
     SaveGameFile("a.ksm", WithNotes("new"));
     GameWindow game;
@@ -117,11 +130,50 @@ TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
     game.Load("a.ksm");
     QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(game.state.NotesText, "new") << "the text's own steps begin anew";
+    EXPECT_TRUE(game.state.Game.Started());
     game.Activate();
     GameWindow::Undo();
     EXPECT_FALSE(game.state.Game.Started()) << "a load can be taken back";
     EXPECT_EQ(box->toPlainText(), "old");
     EXPECT_EQ(game.state.NotesText, "old");
+    GameWindow::Redo();
+    QTest::keyClicks(box, "er");
+    EXPECT_EQ(game.state.NotesText, "newer") << "writing goes on at the end";
+}
+
+/// Names the controls that are painted while it lives.
+class Painted : public QObject {
+public:
+    Painted() { qApp->installEventFilter(this); }
+    QSet<QString> Names;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            Names << watched->objectName();
+        }
+        return false;
+    }
+};
+
+TEST(ShowGame, PaintsWhatChangedAndNoMore) {
+    GameWindow game;
+    game.Activate();
+    game.Start();
+    game.MoveOver(game.Find<QWidget>("Enviro", 2));
+    OnScreen(game.window);
+    Painted painted;
+    game.Click("Enviro", 2);
+    OnScreen(game.window);
+    // The figures beside it reach a pixel into the influence, and the rest lies below.
+    EXPECT_EQ(painted.Names,
+              QSet<QString>({"Enviro(2)", "PellamTools(2)", "Micro(2)", "PlayerInfluence(2)",
+                             "PlayerResources(2)", "PlayerPlanets(2)", "PInf(1)", "PInf(2)",
+                             "UpLefPic", "", "Korvane"}));
+    painted.Names.clear();
+    game.window.ShowGame();
+    OnScreen(game.window);
+    EXPECT_TRUE(painted.Names.isEmpty());
 }
 
 } // namespace

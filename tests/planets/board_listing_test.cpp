@@ -1,5 +1,6 @@
 #include "economy/value_update.h"
 #include "planets/board_listing.h"
+#include "planets/owner_place.h"
 
 #include <gtest/gtest.h>
 
@@ -23,11 +24,21 @@ TEST(BoardListing, ListsFromThePositionInTableOrder) {
     const std::tuple<int, int, int, int, int> rows[]{
         {20, AllPlanets, 8, 8, 19},
         {5, AllPlanets, 0, 0, 11}, // planets that are not there
-        {4, NeutralOwner, 0, 1, NoPlanet}};
+        {101, 10, 39, 78, 100},
+        {4, NeutralOwner, 0, 1, NoPlanet},
+        {23, 10, 0, 0, 22}};
     for (const auto& [planets, owner, position, first, last] : rows) {
         const BoardRows listed = ListBoard(BoardGame(planets, owner, position));
         EXPECT_EQ(listed.front(), first) << planets << " planets";
         EXPECT_EQ(listed.back(), last) << planets << " planets";
+    }
+}
+
+TEST(TopOfOwner, SpreadsTheOwnersOverTheBoard) {
+    const std::tuple<int, int, int> rows[]{{1, 2, 36},  {6, 6, 161}, {1, 7, 31},
+                                           {7, 7, 157}, {8, 8, 157}, {10, 10, 166}};
+    for (const auto& [player, players, top] : rows) {
+        EXPECT_EQ(TopOfOwner(player, players), top) << player << " of " << players;
     }
 }
 

@@ -1,10 +1,21 @@
 #include "model/player_labels.h"
+#include "trade/ring.h"
 #include "trade/trade_diagram.h"
 
 #include <gtest/gtest.h>
 
 namespace ksm {
 namespace {
+
+TEST(PlaceInRing, GoesRoundClockwise) {
+    const std::tuple<int, int, Point> rows[]{
+        {1, 2, {45, 89}},  {2, 2, {165, 89}},  {2, 3, {165, 133}}, {4, 4, {29, 141}},
+        {2, 5, {77, 21}},  {5, 6, {141, 157}}, {4, 7, {189, 53}},  {6, 8, {165, 141}},
+        {9, 9, {29, 133}}, {6, 10, {197, 89}}, {10, 10, {29, 133}}};
+    for (const auto& [player, players, place] : rows) {
+        EXPECT_EQ(PlaceInRing(player, players), place) << player << " of " << players;
+    }
+}
 
 TEST(TradeDiagram, DrawsAgreementsRowByRowAndTheForbiddenPairOnTop) {
     Game game;                    // of six
@@ -22,6 +33,8 @@ TEST(TradeDiagram, DrawsAgreementsRowByRowAndTheForbiddenPairOnTop) {
     Strokes all = agreements;
     all.push_back({{76, 29}, {76, 165}, colour::Red, 6});
     all.push_back({{76, 29}, {76, 165}, colour::White, 2});
+    EXPECT_EQ(game.TradeStrokes, all);
+
     SetColours(game, 3, {.Back = colour::Navy, .Text = colour::White});
     DrawTradeLine(game, 3, 4);
     all.push_back({{156, 29}, {204, 97}, colour::Navy, 3});
