@@ -81,8 +81,8 @@ void Korvane::TakeBack(int count) {
     for (; count > 0 && history.CanUndo(); --count) {
         Announce(*this, "Undo " + QString::fromStdString(history.UndoText()));
         history.Undo(state);
+        Returned();
     }
-    Returned();
 }
 
 void Korvane::Redo() {
