@@ -104,9 +104,8 @@ void PlanetBoard::ShowMarks() {
     const QColor highlight = ToQColor(colour::Yellow);
     const QColor dragMark = ToQColor(colour::Red);
     for (const auto& [owner, label] : InvasionPlayer) {
-        label->SetBackColour(owner == state.View.MarkedOwner   ? dragMark
-                             : owner == state.View.BoardPlayer ? highlight
-                                                               : ButtonFace());
+        const QColor unmarked = owner == state.View.BoardPlayer ? highlight : ButtonFace();
+        label->SetBackColour(owner == state.View.MarkedOwner ? dragMark : unmarked);
     }
     for (std::size_t row = 0; row < rows.size(); ++row) {
         rows[row].Name().SetBackColour(state.View.MarkedRows[row] ? dragMark : ButtonFace());
