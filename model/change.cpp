@@ -63,7 +63,7 @@ Descriptions Trade(const Game& before, const Game& after) {
         before.IndepFirst != after.IndepFirst || before.IndepSecond != after.IndepSecond) {
         return {{"Economic Independance"}};
     }
-    const Descriptions agreements = Agreements(before, after);
+    Descriptions agreements = Agreements(before, after);
     // Only its message tells it from the end of the last agreement.
     if (!agreements.empty() && !after.TradeInfo.ends_with("TRADE STOP!")) {
         return agreements;
@@ -71,7 +71,7 @@ Descriptions Trade(const Game& before, const Game& after) {
     Descriptions found;
     if (agreements.empty() && before.TradeMode != after.TradeMode) {
         const bool isOver = after.TradeMode == TradeMode::Idle;
-        found.push_back(SelectionName(isOver ? before.TradeMode : after.TradeMode));
+        found.emplace_back(SelectionName(isOver ? before.TradeMode : after.TradeMode));
     } else {
         NoteIf(before.TradeStrokes != after.TradeStrokes || !agreements.empty(), found,
                "Trade Stop");
