@@ -4,6 +4,7 @@
 #include "controls/element_name.h"
 #include "controls/fitting_font.h"
 #include "controls/input.h"
+#include "controls/look.h"
 #include "controls/plain_tool_tip.h"
 #include "controls/qt_values.h"
 
@@ -46,20 +47,10 @@ void CaptionLabel::SetColours(const QColor& back, const QColor& text) {
 
 void CaptionLabel::SetBackColour(const QColor& back) {
     setAutoFillBackground(true);
-    if (palette().color(QPalette::Window) != back) {
-        QPalette painted = palette();
-        painted.setColor(QPalette::Window, back);
-        setPalette(painted);
-    }
+    SetColour(*this, QPalette::Window, back);
 }
 
-void CaptionLabel::SetTextColour(const QColor& text) {
-    if (palette().color(QPalette::WindowText) != text) {
-        QPalette painted = palette();
-        painted.setColor(QPalette::WindowText, text);
-        setPalette(painted);
-    }
-}
+void CaptionLabel::SetTextColour(const QColor& ink) { SetColour(*this, QPalette::WindowText, ink); }
 
 void CaptionLabel::SetHeading(const QString& text) {
     if (text != heading) {

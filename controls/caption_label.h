@@ -35,7 +35,7 @@ public:
     void SetColours(const ColourPair& colours);
     void SetColours(const QColor& back, const QColor& text);
     void SetBackColour(const QColor& back);
-    void SetTextColour(const QColor& text);
+    void SetTextColour(const QColor& ink);
 
     /// What assistive technology says before the caption: "Influence, Player 3".
     void SetHeading(const QString& text);

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
-#include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <qdrawutil.h>
@@ -82,6 +81,14 @@ void ApplyLook() {
     QApplication::setPalette(LightPalette());
     QApplication::setFont(PlainFont());
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+}
+
+void SetColour(QWidget& control, QPalette::ColorRole role, const QColor& colour) {
+    QPalette painted = control.palette();
+    if (painted.color(role) != colour) {
+        painted.setColor(role, colour);
+        control.setPalette(painted);
+    }
 }
 
 QColor ButtonFace() { return {239, 239, 239}; }

@@ -3,11 +3,15 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 
 namespace ksm {
 
 /// Gives the application its light Fusion look, whatever theme the desktop has.
 void ApplyLook();
+
+/// Gives what plays the role in the control this colour.
+void SetColour(QWidget& control, QPalette::ColorRole role, const QColor& colour);
 
 /// The background of windows, and of labels that have no colour of their own.
 QColor ButtonFace();

@@ -51,10 +51,8 @@ void MakeAddress(const char* name, const char* meaning, int top, const char* add
     box->setFrame(false);
     box->setReadOnly(true);
     box->setAlignment(Qt::AlignHCenter);
-    QPalette palette = box->palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    palette.setColor(QPalette::Text, Qt::blue);
-    box->setPalette(palette);
+    SetColour(*box, QPalette::Base, ButtonFace());
+    SetColour(*box, QPalette::Text, Qt::blue);
 }
 
 } // namespace

@@ -65,10 +65,8 @@ void MakeBox(const TechChart& chart, int index, QWidget* parent) {
     box->setFont(BoxFont());
     box->setText(ToQString(technology.Name).replace(' ', '\n')); // one word a line
     box->setAlignment(Qt::AlignCenter);
-    QPalette colours = box->palette();
-    colours.setColor(QPalette::Window, ToQColor(LookOf(technology.Field).Back));
-    colours.setColor(QPalette::WindowText, Qt::white);
-    box->setPalette(colours);
+    SetColour(*box, QPalette::Window, ToQColor(LookOf(technology.Field).Back));
+    SetColour(*box, QPalette::WindowText, Qt::white);
     box->setAutoFillBackground(true);
 }
 

@@ -4,6 +4,7 @@
 #include "controls/element_name.h"
 #include "controls/even_drawing.h"
 #include "controls/focus_group.h"
+#include "controls/look.h"
 #include "controls/message_label.h"
 #include "controls/qt_values.h"
 #include "controls/shape_frame.h"
@@ -29,9 +30,7 @@ constexpr QColor Background{0xB8, 0xC0, 0xCA};
 
 TradePanel::TradePanel(Game& shown, QWidget* parent) : QWidget(parent), game(shown) {
     NameAndPlace(*this, "TradePic", {338, 0, 300, 180}, "Trade");
-    QPalette painted = palette();
-    painted.setColor(QPalette::Window, Background);
-    setPalette(painted);
+    SetColour(*this, QPalette::Window, Background);
     setAutoFillBackground(true);
     new ShapeFrame("TradeShape", rect(), 0, this);
     // The order of the Tab key.
