@@ -13,6 +13,8 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
 
 namespace {
 
@@ -24,6 +26,21 @@ std::filesystem::path ProgramFolder() {
     return error ? std::filesystem::path(
                        QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString())
                  : program.parent_path();
+}
+
+/// Drawn here, since Qt's own way takes a plugin, which is not installed everywhere.
+QIcon ProgramIcon() {
+    QSvgRenderer drawing(QString(":/ksm.svg"));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128}) {
+        QPixmap drawn(size, size);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(drawn);
+    }
+    return icon;
 }
 
 /// Reads the planet list beside the program; says what is wrong with it and returns false if
@@ -59,7 +76,7 @@ int main(int argc, char* argv[]) {
     if (ksm::IsWayland()) {
         application.installEventFilter(&sizeGuard);
     }
-    QApplication::setWindowIcon(QIcon(":/ksm.svg"));
+    QApplication::setWindowIcon(ProgramIcon());
 
     const ksm::SingleInstance instance;
     if (instance.OtherIsRunning()) {
