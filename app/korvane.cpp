@@ -129,15 +129,11 @@ void Korvane::LayoutForPlayerCount() {
 }
 
 void Korvane::ShowPlayerControls(int player) {
-    for (QWidget* control : playerControls[player]) {
-        control->show();
-    }
+    std::ranges::for_each(playerControls[player], &QWidget::show);
 }
 
 void Korvane::HidePlayerControls(int player) {
-    for (QWidget* control : playerControls[player]) {
-        control->hide();
-    }
+    std::ranges::for_each(playerControls[player], &QWidget::hide);
 }
 
 void Korvane::ShowGame() {

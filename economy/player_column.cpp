@@ -47,7 +47,7 @@ constexpr std::array<FigureDesign, FigureCount> FigureDesigns{{
      ColourPair{colour::DarkYellow, colour::Black}},
 }};
 
-void MoveTo(int left, std::initializer_list<QWidget*> controls) {
+void MoveTo(int left, const QWidgetList& controls) {
     for (QWidget* control : controls) {
         control->move(left, control->y());
     }
@@ -148,9 +148,7 @@ void PlayerColumn::ShowPlace() {
     RaceLabel->setGeometry(place.Left, RaceLabel->y(), place.NameWidth, RaceLabel->height());
     Race->setGeometry(place.Left + 1, Race->y(), place.RaceWidth, Race->height());
     MoveTo(place.Left, {StatLine});
-    for (CaptionLabel* figure : Figures) {
-        MoveTo(place.FigureLeft, {figure});
-    }
+    MoveTo(place.FigureLeft, {Figures.begin(), Figures.end()});
     MoveTo(place.FigureLeft + 3, {SpaceDocks});
     MoveTo(place.FigureLeft + 19, {DockScroll});
     MoveTo(place.FigureLeft + 6, {Enviro, PellamTools, Micro});

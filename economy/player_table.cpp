@@ -5,6 +5,8 @@
 #include "controls/spin_bar.h"
 #include "model/technology.h"
 
+#include <algorithm>
+
 namespace ksm {
 
 namespace {
@@ -61,10 +63,6 @@ PlayerTable::PlayerTable(Game& game, QWidget* window) : QObject(window) {
     new FocusGroup(docks, FocusGroup::Keys::LeftAndRight, this);
 }
 
-void PlayerTable::ShowGame() {
-    for (PlayerColumn* column : columns) {
-        column->ShowGame();
-    }
-}
+void PlayerTable::ShowGame() { std::ranges::for_each(columns, &PlayerColumn::ShowGame); }
 
 } // namespace ksm
