@@ -37,39 +37,25 @@ std::string Colours(const GameWindow& board) {
     return letters;
 }
 
-TEST(PlanetBoard, ADropGivesCancelsOrIsRefused) {
-    const struct {
-        int listed, row;
-        std::vector<int> over;
-        const char *target, *during, *after, *firstTag;
-        int planet, owner;
-    } rows[]{
-        {AllPlanets, 0, {3}, "InvasionPlayer(3)", "...R...YR.", ".......Y..", "0", 0, 3},
-        {2, 0, {1, 0}, "InvasionPlayer(0)", "R.Y.....R.", "..Y.......", "5", 4, 0},
+TEST(PlanetBoard, ADropOnNoOwnerGivesNothing) {
+    const std::tuple<int, const char*, QPoint, const char*> rows[]{
         // The mark stays until another owner is passed over, or the drop is cancelled.
-        {2, 1, {4, 6}, "InvasionPlayer(20)", "..Y...R..R", "..Y...R..R", "4", 5, 2},
-        {2, 1, {6}, "InvasionPic", "..Y...R..R", "..Y.......", "4", 5, 2},
-        {6, 0, {5}, "InvasionResInf(9)", ".....RY.R.", "......Y...", "19", 19, 6},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.listed << " listed, dropped on " << row.target);
-        const GameWindow board(InPlay(row.listed));
-        const auto* target = board.Find<QWidget>(row.target);
-        board.Press(row.row);
-        for (const int owner : row.over) {
-            board.MoveOver(board.Owner(owner));
-        }
+        {2, "InvasionPlayer(20)", {9, 9}, "..Y..R...R"},
+        {2, "InvasionPic", {60, 177}, "..Y......."},
+        {6, "InvasionResInf(9)", {9, 9}, "......Y..."}, // which is empty
+        {AllPlanets, "InvasionPlanet(3)", {9, 9}, ".....R.Y.R"}};
+    for (const auto& [listed, target, place, colours] : rows) {
+        SCOPED_TRACE(target);
+        const GameWindow board(InPlay(listed));
+        board.Press(listed == 6 ? 0 : 1);
+        board.MoveOver(board.Owner(4));
+        board.MoveOver(board.Owner(5));
         Turn(board.Row(3), -1); // what is under the pointer stays there
-        auto* outline = board.Find<QWidget>("DragOutline");
-        EXPECT_TRUE(outline->isVisible());
-        EXPECT_EQ(outline->pos() + QPoint(3, 3), Centre(board.Owner(row.over.back())));
-        EXPECT_EQ(Colours(board), row.during);
-        const bool isPanel = row.target == QString("InvasionPic");
-        board.DropOn(target, isPanel ? QPoint(60, 177) : target->rect().center());
-        EXPECT_FALSE(outline->isVisible());
-        EXPECT_EQ(Colours(board), row.after);
-        EXPECT_EQ(board.Row(0)->property("Tag"), row.firstTag);
-        EXPECT_EQ(board.state.Game.Planet(row.planet).Owner, row.owner);
+        board.DropOn(board.Find<QWidget>(target), place);
+        EXPECT_FALSE(board.Find<QWidget>("DragOutline")->isVisible());
+        EXPECT_EQ(Colours(board), colours);
+        EXPECT_EQ(board.state.Game.Planet(listed == AllPlanets ? 1 : 5).Owner,
+                  listed == AllPlanets ? NeutralOwner : 2);
     }
 }
 
