@@ -1,5 +1,6 @@
 #include "tests/saves/system_fault.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -34,6 +35,12 @@ extern "C" {
 
 int fsync(int file) {
     return ksm::Strikes("fsync") ? -1 : static_cast<int>(syscall(SYS_fsync, file));
+}
+
+ssize_t write(int file, const void* data, size_t size) {
+    // A disk that is about to be full takes a part.
+    const size_t taken = ksm::armed.Call == "write" ? std::min<size_t>(size, 4096) : size;
+    return ksm::Strikes("write") ? -1 : syscall(SYS_write, file, data, taken);
 }
 
 int close(int file) {
