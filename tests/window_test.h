@@ -97,8 +97,7 @@ private:
     /// What a label of the box shows.
     static QString Read(const QMessageBox& box, const char* name) {
         const auto* label = box.findChild<QLabel*>(QLatin1StringView(name));
-        const QString text = label ? label->text() : QString();
-        return label && label->textFormat() == Qt::PlainText ? text : AsRead(text);
+        return label && label->textFormat() == Qt::PlainText ? label->text() : QString();
     }
 
     bool expected;

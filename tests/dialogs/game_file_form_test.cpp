@@ -1,6 +1,5 @@
-#include "dialogs/game_file_form.h"
+#include "tests/game_window.h"
 #include "tests/saves/saves_folder.h"
-#include "tests/window_test.h"
 
 #include <QListWidget>
 
@@ -10,69 +9,58 @@ namespace {
 // Each test has a current folder of its own.
 class GameFileForms : public SavesFolder {
 protected:
-    void Open(const GameFileDesign& design) {
-        delete form;
-        const auto use = [this](const QString& name) {
-            used << name;
-            return outcome;
-        };
-        form = new GameFileForm(design, use, &owner);
-        form->show();
-        form->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    QLineEdit* Open(const char* item) {
+        game.Choose(item);
+        form = game.Find<QWidget>(item == QString("SGame") ? "SaveForm" : "LoadForm");
+        game.Activate(form);
+        return game.Find<QLineEdit>("FileNam");
     }
-    QLineEdit* Box() const { return form->findChild<QLineEdit*>("FileNam"); }
-    void Key(Qt::Key key) const { QTest::keyClick(form->windowHandle(), key); }
 
-    QWidget owner;
-    QStringList used;
-    Outcome<> outcome;
-    QPointer<GameFileForm> form;
+    GameWindow game;
+    QPointer<QWidget> form;
 };
 
-TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesOnceAndEscapeNothing) {
+TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesAndEscapeNothing) {
     for (const char* typed : {"savegame.ksm", "game1", "A.KSM", ""}) {
         for (const auto key : {Qt::Key_Escape, Qt::Key_Return}) {
-            Open(SaveDesign);
-            EXPECT_EQ(Box()->text(), "savegame.ksm");
-            Box()->setText(typed);
-            Key(key);
+            QLineEdit* box = Open("SGame");
+            EXPECT_EQ(box->text(), "savegame.ksm");
+            box->setText(typed);
+            game.Key(key);
             EXPECT_TRUE(IsUnloaded(form));
         }
     }
-    EXPECT_EQ(used, QStringList({"savegame.ksm", "game1.ksm", "A.KSM.ksm", ".ksm"}));
-    Open(SaveDesign);
-    QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, Centre(Box()));
-    QTest::keyClicks(Box(), "mine");
-    EXPECT_EQ(Box()->text(), "mine.ksm");
+    EXPECT_EQ(Files(), QStringList({".ksm", "A.KSM.ksm", "game1.ksm", "savegame.ksm"}));
+    game.Click(Open("SGame"));
+    game.Key(Qt::Key_M);
+    EXPECT_EQ(game.Find<QLineEdit>("FileNam")->text(), "m.ksm");
 }
 
 TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
-    outcome = Failure{"No <b>!"};
-    Open(LoadDesign);
+    Open("LGame")->setText("<b>");
     const MessageBoxes boxes;
-    Key(Qt::Key_Return);
-    EXPECT_EQ(boxes.Said,
-              QStringList({"Error Loading File", "An error occured loading the file.", "No <b>!"}));
+    game.Key(Qt::Key_Return);
+    EXPECT_EQ(boxes.Said.first(2),
+              QStringList({"Error Loading File", "An error occured loading the file."}));
+    EXPECT_TRUE(boxes.Said[2].startsWith("\"<b>.ksm\" in the folder"));
     EXPECT_FALSE(IsUnloaded(form));
-    delete form;
 }
 
 TEST_F(GameFileForms, AFileIsPickedByArrowClickOrDoubleClick) {
-    SaveGameFile("first.ksm", GameState());
-    SaveGameFile("second.ksm", GameState());
-    Open(LoadDesign);
+    SaveGameFile("first.ksm", WithNotes("first"));
+    SaveGameFile("second.ksm", WithNotes("second"));
+    const QLineEdit* box = Open("LGame");
     auto* list = form->findChild<QListWidget*>("File1");
     list->setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(Box()->text(), "second.ksm");
+    game.Key(Qt::Key_Down);
+    EXPECT_EQ(box->text(), "second.ksm");
     for (const int row : {0, 1}) {
         const QPoint place = list->visualItemRect(list->item(row)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
-        EXPECT_EQ(Box()->text(), list->item(row)->text());
+        EXPECT_EQ(box->text(), list->item(row)->text());
         row == 1 ? QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place) : void();
     }
-    EXPECT_EQ(used, QStringList("second.ksm"));
+    EXPECT_EQ(game.state.NotesText, "second");
     EXPECT_TRUE(IsUnloaded(form));
 }
 
