@@ -10,10 +10,11 @@
 #include <QFontDatabase>
 #include <QMenu>
 #include <QPainter>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <functional>
 #include <map>
-#include <random>
 
 namespace ksm {
 namespace {
@@ -143,22 +144,7 @@ QImage NameDialog() {
     return Grab(*evening.Find<QWidget>("ColorSelectForm"));
 }
 
-/// The same number of dice as just fell, but always in the same way.
-void LetFallAgain(const DiceForm& form) {
-    std::array<CaptionLabel*, MaxDice> places{};
-    int dice = 0;
-    for (int place = 0; auto*& label : places) {
-        label = form.findChild<CaptionLabel*>(ElementName("Label1", place++));
-        dice += label->Caption().isEmpty() ? 0 : 1;
-    }
-    std::mt19937 generator(10);
-    std::uniform_real_distribution<double> distribution;
-    const DicePlaces fallen = RollDice(dice, [&] { return distribution(generator); });
-    for (std::size_t place = 0; place < places.size(); ++place) {
-        places[place]->SetCaption(fallen[place] == 0 ? "" : QString::number(fallen[place]));
-    }
-}
-
+/// After each roll as many dice as just fell, but always in the same way.
 QImage Dice() {
     QWidget owner;
     DiceForm form(&owner);
@@ -167,7 +153,11 @@ QImage Dice() {
     for (const int position : {5, 0, 7, 4, scroll->maximum()}) {
         scroll->setValue(position);
         form.findChild<QPushButton*>("Command1")->click();
-        LetFallAgain(form);
+        const auto places = form.findChildren<CaptionLabel*>(QRegularExpression("Label1"));
+        auto left = std::ranges::count(places, QString(), &CaptionLabel::Caption);
+        for (int value = 4; CaptionLabel * place : places) {
+            place->SetCaption(left-- > 0 ? QString() : QString::number(value++));
+        }
         rolls << Grab(form);
     }
     return Column(rolls);
@@ -211,14 +201,6 @@ QImage Message() {
     return boxes.Seen;
 }
 
-QImage Icon() {
-    QList<QImage> sizes;
-    for (const int size : {16, 32, 48}) {
-        sizes << QIcon(":/ksm.svg").pixmap(QSize(size, size), 1.0).toImage();
-    }
-    return Column(sizes);
-}
-
 /// Opens a window from the menu, in a folder with a few games.
 QImage Opened(const char* item, const char* form) {
     const QTemporaryDir folder;
@@ -247,7 +229,6 @@ std::map<QString, std::function<QImage()>> Scenes() {
         {"modifiers", Modifiers},
         {"laws", Laws},
         {"message", Message},
-        {"icon", Icon},
         {"notes", [] { return Opened("Notes", "NoteForm"); }},
         {"save", [] { return Opened("SGame", "SaveForm"); }},
         {"load", [] { return Opened("LGame", "LoadForm"); }},
