@@ -36,17 +36,14 @@ struct GameWindow {
         window.show();
     }
 
+    static constexpr int Single = -1; ///< a control that stands in no array
     template<typename Control = CaptionLabel>
-    Control* Find(const char* name) const {
-        auto* control = window.findChild<Control*>(QLatin1StringView(name));
+    Control* Find(const char* name, int index = Single) const {
+        auto* control =
+            window.findChild<Control*>(index == Single ? QString(name) : ElementName(name, index));
         EXPECT_NE(control, nullptr) << name;
         return control;
     }
-    template<typename Control = CaptionLabel>
-    Control* Find(const char* array, int index) const {
-        return Find<Control>(ElementName(array, index).toLatin1().constData());
-    }
-
     std::string Caption(const char* array, int index) const {
         return Find(array, index)->Caption().toStdString();
     }
@@ -54,8 +51,7 @@ struct GameWindow {
     void Click(QWidget* control) const {
         QTest::mouseClick(PlatformWindow(control), Qt::LeftButton, {}, Centre(control));
     }
-    void Click(const char* name) const { Click(Find<QWidget>(name)); }
-    void Click(const char* array, int index) const { Click(Find<QWidget>(array, index)); }
+    void Click(const char* name, int index = Single) const { Click(Find<QWidget>(name, index)); }
     void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
     void Move(const char* bar, int value) const { Find<QScrollBar>(bar)->setValue(value); }
     void Move(const char* bars, int index, int value) const {

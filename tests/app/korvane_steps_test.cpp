@@ -98,21 +98,6 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     EXPECT_EQ(MenuTexts(game).first(), "[Undo]");
 }
 
-TEST(Steps, ASelectionIsOneThatCanBeTakenBackInItsMiddle) {
-    GameWindow game;
-    game.Activate();
-    for (const char* control : {"AddTAbutton", "TradePlayer(3)", "TradePlayer(5)", "AddTAbutton",
-                                "TradePlayer(4)", "Enviro(1)"}) {
-        game.Click(control);
-    }
-    game.Undo();
-    EXPECT_EQ(game.state.Game.TradeMode, TradeMode::AddPartner) << "what else is done is a step";
-    game.Undo();
-    EXPECT_EQ(game.state.Game.TradeMode, TradeMode::Idle);
-    EXPECT_EQ(MenuTexts(game),
-              QStringList({"Undo agreement of Player 3 and Player 5", "Redo Add"}));
-}
-
 TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
     GameWindow game;
     game.Activate();

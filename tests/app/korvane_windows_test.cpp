@@ -8,12 +8,6 @@
 namespace ksm {
 namespace {
 
-TEST(Windows, TheMainOneStandsInTheMiddleOfTheScreen) {
-    GameState game;
-    const Korvane window(game, nullptr);
-    EXPECT_EQ(window.geometry().center(), window.screen()->geometry().center());
-}
-
 TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
     const struct {
         const char *item, *form, *title, *focus;
@@ -32,6 +26,7 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.form);
         GameWindow game;
+        EXPECT_EQ(game.window.geometry().center(), game.window.screen()->geometry().center());
         game.Choose(row.item);
         const QPointer form(game.Find<QWidget>(row.form));
         EXPECT_TRUE(form->windowTitle().endsWith(row.title));

@@ -107,19 +107,6 @@ TEST(ShowGame, ShowsWhatWasPlayedTakenBackSavedAndLoadedAndOnlyReads) {
 
 using LoadedGames = SavesFolder;
 
-TEST_F(LoadedGames, TakeThePlaceOfAnyOther) {
-    SaveGameFile("sample.ksm", SampleGame());
-    SaveGameFile("new.ksm", GameOfTwentyPlanets());
-    GameWindow game;
-    for (const char* name : {"sample.ksm", "new.ksm", "sample.ksm"}) {
-        game.Load(name);
-        const GameState loaded = *LoadGameFile(name);
-        EXPECT_TRUE(game.state == loaded);
-        GameWindow made(loaded);
-        ExpectSame(game, made);
-    }
-}
-
 TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
     SaveGameFile("a.ksm", WithNotes("new"));
     GameWindow game;

@@ -1,13 +1,9 @@
-#include "model/history.h"
-#include "model/player_labels.h"
 #include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/game_window.h"
 #include "tests/saves/saves_folder.h"
 #include "tests/saves/system_fault.h"
 
-#include <map>
-#include <random>
 #include <sys/wait.h>
 
 namespace ksm {
@@ -124,59 +120,6 @@ TEST_F(KeptGames, NoneIsLostWhereverTheProgramIsKilled) {
         }
     }
     EXPECT_TRUE(Files().filter(".tmp").empty());
-}
-
-// Programs play one after another in one folder; each game's first player is named anew by each
-// change, so that the name tells how far it was played.
-TEST_F(KeptGames, OutliveWhateverIsDone) {
-    std::mt19937 random(3);
-    const auto pick = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
-    std::map<std::int64_t, std::string> played; // the name by the start
-    std::optional<History> history;
-    std::optional<KeptGame> kept;
-    GameState state = GameOf(0, "");
-    for (int step = 0; step < 120 && !HasFailure(); ++step) {
-        const int deed = pick(9);
-        if (deed == 0 || !kept) { // after Ctrl+X, or killed
-            state = GameOf(0, "");
-            history.emplace(state.Game);
-            kept.emplace(state);
-        } else if (deed == 1) {
-            state.Game.StartTime = state.Game.Started() ? state.Game.StartTime : step;
-            history->Restart(state.Game);
-        } else if (deed <= 3) {
-            const Outcome<GameState> loaded =
-                LoadGameFile(KeptGameNames.at(static_cast<std::size_t>(pick(4))));
-            if (loaded) {
-                state = *loaded;
-                history->RecordLoad(state, "");
-            }
-        } else if (deed <= 5 && history->CanUndo()) {
-            history->Undo(state);
-        } else if (deed == 6 && history->CanRedo()) {
-            history->Redo(state);
-        } else {
-            SetName(state.Game, 1, std::to_string(step), "");
-            history->Record(state.Game);
-        }
-        kept->Keep(state);
-        if (state.Game.Started()) {
-            played[state.Game.StartTime] = state.Game.Player(1).Name;
-        }
-        EXPECT_TRUE(kept->LastOutcome());
-        std::map<std::int64_t, std::string> found;
-        for (const char* name : KeptGameNames) {
-            const Outcome<GameState> game = LoadGameFile(name);
-            EXPECT_TRUE(game || !QFileInfo::exists(name)) << game.Reason();
-            if (game && game->Game.Started()) {
-                found.emplace(game->Game.StartTime, game->Game.Player(1).Name);
-            }
-        }
-        auto game = played.rbegin();
-        for (int count = 0; count < 3 && game != played.rend(); ++count, ++game) {
-            EXPECT_EQ(found[game->first], game->second) << "in step " << step;
-        }
-    }
 }
 
 } // namespace
