@@ -3,6 +3,8 @@
 #include "saves/game_file.h"
 #include "saves/system.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <filesystem>
 #include <functional>
