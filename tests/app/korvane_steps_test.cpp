@@ -11,6 +11,7 @@ namespace {
 /// The context menu, opened by a right click on the background; it goes when it is closed.
 QMenu* ContextMenu(const GameWindow& game) {
     DeleteClosed();
+    game.MoveOver(game.Find("PlayerName", 1)); // no menu comes again where the pointer rests
     QTest::mouseClick(game.window.windowHandle(), Qt::RightButton, {}, QPoint(5, 300));
     return game.Find<QMenu>("Steps");
 }
