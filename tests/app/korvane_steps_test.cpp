@@ -86,10 +86,17 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     auto* docks = game.Find<QScrollBar>("DockScroll", 2);
     QTest::mousePress(game.window.windowHandle(), Qt::LeftButton, {}, PlaceIn(docks, {8, 5}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return docks->value() <= 7; })) << "repeats while held";
+    game.MoveOver(game.Owner(1));
+    const int reached = docks->value();
+    QTest::qWait(600);
+    EXPECT_EQ(docks->value(), reached) << "rests beside the arrow";
     QTest::mouseRelease(game.window.windowHandle(), Qt::LeftButton, {}, PlaceIn(docks, {8, 5}));
     docks->setFocus();
     QTest::keyPress(docks, Qt::Key_Up);
-    QTest::keyPress(docks, Qt::Key_Up);
+    docks->clearFocus(); // to a window that opens and closes meanwhile
+    docks->setFocus();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Up, {}, {}, true);
+    QApplication::sendEvent(docks, &repeated);
     QTest::keyRelease(docks, Qt::Key_Up);
     for (const char* undo :
          {"Space Docks, Player 2", "Space Docks, Player 2", "Tech Modifiers", "name, Ada"}) {
@@ -120,6 +127,8 @@ TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
     game.Undo();
     EXPECT_FALSE(game.state.Game.Laws.FreeTrade);
     EXPECT_EQ(game.state.View.BoardPlayer, 3);
+    game.Key(Qt::Key_F, Qt::AltModifier);
+    EXPECT_TRUE(game.Find<QMenu>("File")->isVisible());
 }
 
 } // namespace

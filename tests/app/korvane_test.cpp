@@ -28,13 +28,24 @@ TEST(MainWindow, EveryFigureIsExplainedToItsPlayer) {
     EXPECT_TRUE(game.Find<QWidget>("Micro", 10)->toolTip().contains("three credits"));
 }
 
+TEST(Setup, TheNumberOfPlayersStaysInItsRange) {
+    const GameWindow game;
+    for (const auto& [position, players] : {std::pair{0, 10}, {5, 6}, {10, 2}, {1, 10}}) {
+        game.Move("PlayNumScroll", position);
+        EXPECT_EQ(game.state.Game.NumPlayers, players);
+    }
+}
+
 TEST(Setup, OnlyAnEntryTakenFromTheListChoosesARace) {
     GameWindow game;
     game.Activate();
     auto* box = game.Find<QComboBox>("Race", 2);
+    game.Click("Enviro", 2);
     box->setFocus();
     box->lineEdit()->selectAll();
     QTest::keyClicks(box, "Altheran");
+    game.Undo();
+    EXPECT_FALSE(game.state.Game.Player(2).Enviro) << "the game's steps, not those of the text";
     game.Key(Qt::Key_Return);
     game.Focus("PlayerName(1)");
     Turn(box, -1);

@@ -56,10 +56,15 @@ TEST(Windows, SayWhatTheirControlsAre) {
         {"", "PlayNumScroll", "Number of Players"},
         {"", "InvasionPlayer(5)", "Planets of Player 5: Player 5"},
         {"MenuTechMod", "VScroll1(2)", "Red cost modifier"},
+        {"", "RaceLabel(3)", "Race, Player 3: Race"},
         {"Dice", "Scroll", "Number of dice"},
+        {"LGame", "File1", "Saved games"},
         {"SGame", "FileNam", "Filename"},
         {"Stech", "Label1(2)",
-         "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS"}};
+         "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS"},
+        {"Stech", "Label1(8)", "MIND LINK, green, needs MICRO TECHNOLOGY and SLEEP CHAMBERS"},
+        {"Stech", "Label1(19)",
+         "STAR BREAKER, red, needs FOLD BEACONS and PRISM SHIELDS and SIEGE MORTARS"}};
     InstallAccessibleNames();
     for (const auto& [item, control, name] : rows) {
         const GameWindow game;

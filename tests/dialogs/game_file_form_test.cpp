@@ -34,6 +34,9 @@ TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesAndEscapeNothing) {
     game.Click(Open("SGame"));
     game.Key(Qt::Key_M);
     EXPECT_EQ(game.Find<QLineEdit>("FileNam")->text(), "m.ksm");
+    game.Click("Cance");
+    EXPECT_TRUE(IsUnloaded(form));
+    EXPECT_EQ(Files().size(), 4);
 }
 
 TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {

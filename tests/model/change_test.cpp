@@ -48,6 +48,10 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         EXPECT_TRUE(IsChange(before, after)) << words;
         EXPECT_EQ(DescribeChange(before, after), words);
     }
+    Game followed = NamedGame();
+    followed.Player(3).Figures.Influence = 9;
+    followed.TurnOrderRows[0].Player = 4;
+    EXPECT_FALSE(IsChange(NamedGame(), followed)) << "what follows from an input is none";
 }
 
 } // namespace

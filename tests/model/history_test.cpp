@@ -38,12 +38,14 @@ struct Steps {
 };
 
 TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
-    // Space docks; { } opens and ends a step, ~ goes on with the last one, < takes one back.
+    // Space docks; { } opens and ends a step, ~ goes on with the last one, < takes one back, >
+    // makes it again.
     const std::pair<const char*, std::vector<int>> rows[]{
         {"2{324{56}}7", {7, 6, 4, 2, 1}}, // back where it began in between, and one within another
         {"{2}~3}", {3, 1}},
         {"{2}9~3}", {3, 9, 2, 1}},
-        {"{2<34}", {4, 1}}};
+        {"{2<34}", {4, 1}},
+        {"{2<>3}", {3, 2, 1}}};
     for (const auto& [deeds, docks] : rows) {
         Steps steps;
         for (const char deed : std::string_view(deeds)) {
@@ -59,6 +61,9 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
                 break;
             case '<':
                 steps.history.Undo(steps.state);
+                break;
+            case '>':
+                steps.history.Redo(steps.state);
                 break;
             default:
                 steps.Docks(deed - '0');
@@ -101,7 +106,11 @@ TEST(History, ASelectionBelongsToTheStepThatBeganItButNotToALoad) {
     EXPECT_EQ(steps.history.UndoTexts(1).size(), 1U);
     steps.history.Undo(steps.state);
     EXPECT_EQ(steps.state.Game.TradeMode, TradeMode::AddFirst);
+    steps.Select(TradeMode::AddPartner, 3);
     steps.Docks(4);
+    EXPECT_EQ(steps.history.UndoTexts(10),
+              (std::vector<std::string>{"Space Docks, Player 1", "Add", "Load Game"}))
+        << "what else is done while something is selected is a step";
     EXPECT_FALSE(steps.history.CanRedo());
     steps.history.Restart(steps.state.Game);
     EXPECT_EQ(steps.history.UndoText() + steps.history.RedoText(), "");

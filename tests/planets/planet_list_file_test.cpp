@@ -16,6 +16,7 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     // A line feed alone ends no line, and counts as a blank in a number.
     {"Al\npha,1\n2,\n3", {"Al\npha", 12, 3, None}},
     // Encodings: valid UTF-8 stays, anything else is Windows-1252.
+    {"Zo\xC3\xAB", {"Zo\xC3\xAB", 0, 0, None}},
     {"Zo\xEB\x80", {"Zo\xC3\xAB\xE2\x82\xAC", 0, 0, None}},
     {"\xF4\x90\x80\x80", {"\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC", 0, 0, None}},
     // Numbers.

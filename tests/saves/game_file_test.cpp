@@ -48,9 +48,15 @@ TEST_F(GameFile, AnotherGameThatIsReplacedStays) {
     ASSERT_TRUE(SaveGameFile("a.ksm", WithNotes("last week")));
     QFile::setPermissions("a.ksm", QFile::ReadOwner | QFile::WriteOwner);
     ASSERT_TRUE(QFile::link("a.ksm", "link.ksm"));
+    const auto freeHandle = [] {
+        QFile any("a.ksm");
+        return any.open(QIODevice::ReadOnly) ? any.handle() : -1;
+    };
+    const int before = freeHandle();
     for (const char* name : {"a.ksm", "link.ksm"}) {
         ASSERT_TRUE(SaveGameFile(name, WithNotes("tonight")));
     }
+    EXPECT_EQ(freeHandle(), before) << "every file is closed again";
     EXPECT_FALSE(QFileInfo("a.ksm").permission(QFile::ReadOther)) << "who may read it stays";
     EXPECT_TRUE(QFileInfo("link.ksm").isSymLink());
     EXPECT_EQ(NotesIn("a.ksm") + NotesIn("a.ksm~"), "tonightlast week") << "not lost by the second";

@@ -95,6 +95,15 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
     EXPECT_EQ(Keep(9), "") << "what failed is tried again";
 }
 
+TEST_F(KeptGames, StayOutOfWhatCannotBeRead) {
+    for (const char* name : KeptGameNames) {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("later version") > 0);
+    }
+    EXPECT_EQ(Keep(1).substr(0, 14), "\"autosave.ksm\"");
+    EXPECT_EQ(QFileInfo(KeptGameName).size(), 13) << "nothing is replaced";
+}
+
 TEST_F(KeptGames, NoneIsLostWhereverTheProgramIsKilled) {
     for (const std::int64_t start : {1, 6}) {
         bool isKilled = true;

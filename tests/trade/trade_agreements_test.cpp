@@ -96,6 +96,8 @@ TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
     EXPECT_EQ(TradeText(game, 4),
               "P4 has no Trade Agreement\nTrade Restrictions: an agreement brings the smaller "
               "planet count of the two\nEconomic Independance: no trade with P3");
+    game.Laws = {};
+    EXPECT_EQ(TradeText(game, 5), "P5 has no Trade Agreement");
 }
 
 } // namespace
