@@ -1,32 +1,11 @@
 // What the controls of the main window do to the game.
 
-#include "economy/explanation.h"
 #include "tests/game_window.h"
-#include "trade/trade_text.h"
 
 #include <QAbstractItemView>
 
 namespace ksm {
 namespace {
-
-TEST(MainWindow, EveryFigureIsExplainedToItsPlayer) {
-    const GameWindow game;
-    game.SetPlayers(MaxPlayers);
-    const Game& state = game.state.Game;
-    const std::tuple<const char*, const char*, std::string> rows[]{
-        {"PlayerInfluence", "Influence, Player 10", ExplanationText(state, 10, Figure::Influence)},
-        {"PlayerYellowTech", "Yellow technology cost, Player 10",
-         ExplanationText(state, 10, Figure::YellowCost)},
-        {"SpaceDocks", "Space Docks, Player 10", DockText(state, 10)},
-        {"TradePlayer", "Trade, Player 10", TradeText(state, 10)},
-        {"PolPlay", "Place 10", RankText(state, 10)}};
-    for (const auto& [label, heading, text] : rows) {
-        EXPECT_EQ(game.Find(label, 10)->Explanation().toStdString(), text) << label;
-        EXPECT_EQ(game.Find(label, 10)->Heading(), heading);
-    }
-    EXPECT_EQ(game.Find<QWidget>("Micro", 10)->accessibleName(), "Micro Tech., Player 10");
-    EXPECT_TRUE(game.Find<QWidget>("Micro", 10)->toolTip().contains("three credits"));
-}
 
 TEST(Setup, TheNumberOfPlayersStaysInItsRange) {
     const GameWindow game;

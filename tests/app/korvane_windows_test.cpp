@@ -1,9 +1,6 @@
 // The windows that the menus open, and what they do to the main window.
 
-#include "controls/accessible_names.h"
 #include "tests/game_window.h"
-
-#include <QAccessible>
 
 namespace ksm {
 namespace {
@@ -47,31 +44,6 @@ TEST(Windows, StandInTheirPlacesAndStayUntilTheyAreClosed) {
             game.Key(row.key);
             game.Close(row.form);
         }
-    }
-}
-
-// Names that only a screen reader says, of what shows no text or not enough.
-TEST(Windows, SayWhatTheirControlsAre) {
-    const std::tuple<const char*, const char*, const char*> rows[]{
-        {"", "PlayNumScroll", "Number of Players"},
-        {"", "InvasionPlayer(5)", "Planets of Player 5: Player 5"},
-        {"MenuTechMod", "VScroll1(2)", "Red cost modifier"},
-        {"", "RaceLabel(3)", "Race, Player 3: Race"},
-        {"Dice", "Scroll", "Number of dice"},
-        {"LGame", "File1", "Saved games"},
-        {"SGame", "FileNam", "Filename"},
-        {"Stech", "Label1(2)",
-         "MICRO TECHNOLOGY, yellow, needs ENVIRO COMPENSATOR or PELLAM TOOLS"},
-        {"Stech", "Label1(8)", "MIND LINK, green, needs MICRO TECHNOLOGY and SLEEP CHAMBERS"},
-        {"Stech", "Label1(19)",
-         "STAR BREAKER, red, needs FOLD BEACONS and PRISM SHIELDS and SIEGE MORTARS"}};
-    InstallAccessibleNames();
-    for (const auto& [item, control, name] : rows) {
-        const GameWindow game;
-        game.SetPlayers(MaxPlayers);
-        *item != '\0' ? game.Choose(item) : void();
-        const auto* said = QAccessible::queryAccessibleInterface(game.Find<QWidget>(control));
-        EXPECT_EQ(said->text(QAccessible::Name), name);
     }
 }
 

@@ -70,6 +70,7 @@ TEST_F(Explanations, OfDocksAndOfTiesInTheOrderOfPlay) {
         Player(player).Figures.Resources = resources;
     }
     TurnOrder(*this);
+    EXPECT_EQ(RankText(*this, 1), "before Player 5: equal influence, more resources");
     EXPECT_EQ(RankText(*this, 2),
               "after Dora: equal influence, fewer resources\n"
               "before Player 6: equal influence and resources, lower player number");

@@ -37,6 +37,28 @@ std::string Colours(const GameWindow& board) {
     return letters;
 }
 
+TEST(PlanetBoard, ADropOnNoOwnerGivesNothing) {
+    const std::tuple<int, const char*, QPoint, const char*> rows[]{
+        // The mark stays until another owner is passed over, or the drop is cancelled.
+        {2, "InvasionPlayer(20)", {9, 9}, "..Y..R...R"},
+        {2, "InvasionPic", {60, 177}, "..Y......."},
+        {6, "InvasionResInf(9)", {9, 9}, "......Y..."}, // which is empty
+        {AllPlanets, "InvasionPlanet(3)", {9, 9}, ".....R.Y.R"}};
+    for (const auto& [listed, target, place, colours] : rows) {
+        SCOPED_TRACE(target);
+        const GameWindow board(InPlay(listed));
+        board.Press(listed == 6 ? 0 : 1);
+        board.MoveOver(board.Owner(4));
+        board.MoveOver(board.Owner(5));
+        Turn(board.Row(3), -1); // what is under the pointer stays there
+        board.DropOn(board.Find<QWidget>(target), place);
+        EXPECT_FALSE(board.Find<QWidget>("DragOutline")->isVisible());
+        EXPECT_EQ(Colours(board), colours);
+        EXPECT_EQ(board.state.Game.Planet(listed == AllPlanets ? 1 : 5).Owner,
+                  listed == AllPlanets ? NeutralOwner : 2);
+    }
+}
+
 // What is dragged by mouse or carried by keyboard, and what comes between.
 TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
     const struct {

@@ -51,7 +51,7 @@ TEST_F(KeptGames, OfAnotherProgramStaysAndTheMainWindowSaysSo) {
     kept.Keep(game.state);
     EXPECT_TRUE(Files().empty()) << "nothing to keep of a game that only was looked at";
     game.Click("Enviro", 2);
-    EXPECT_TRUE(*LoadGameFile(KeptGameName) == game.state);
+    EXPECT_TRUE(*LoadGameFile("autosave.ksm") == game.state);
     Put({1});
     game.Click("Enviro", 2);
     EXPECT_EQ(NotesIn(KeptGameName), "old");
