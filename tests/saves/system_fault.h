@@ -6,7 +6,7 @@
 namespace ksm {
 
 struct SystemFault {
-    std::string_view Call = {}; ///< fsync, rename, remove, write, or close of a file that is written
+    std::string_view Call = {}; ///< fsync, rename, remove, write; close of a written file
     int Number = 0;             ///< which call from now on, 1 for the next; 0 for none
     bool Kills = false;         ///< ends the process before the call; otherwise that fails
 };
