@@ -40,8 +40,14 @@ TEST_F(GameFileForms, TheNameIsCompletedAndReturnSavesAndEscapeNothing) {
 }
 
 TEST_F(GameFileForms, AFailureIsToldAsTypedAndTheDialogStays) {
+    MessageBoxes boxes;
+    Open("SGame")->setText("no/folder");
+    game.Key(Qt::Key_Return);
+    EXPECT_EQ(boxes.Said.takeFirst(), "Error Saving File");
+    EXPECT_EQ(boxes.Said.takeFirst(), "An error occured saving the file.");
+    boxes.Said.clear();
+    game.Close("SaveForm");
     Open("LGame")->setText("<b>");
-    const MessageBoxes boxes;
     game.Key(Qt::Key_Return);
     EXPECT_EQ(boxes.Said.first(2),
               QStringList({"Error Loading File", "An error occured loading the file."}));

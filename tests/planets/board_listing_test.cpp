@@ -30,20 +30,19 @@ TEST(TopOfOwner, SpreadsTheOwnersOverTheBoard) {
 
 TEST(BoardListing, ListsAnOwnerWhoCanBeSeenFromThePositionOn) {
     const std::tuple<bool, int, int, int, int, int> rows[]{
-        {true, 10, 10, 10, 78, 100},
-        {true, 9, 10, AllPlanets, 39, 50},
-        {true, 2, NeutralOwner, NeutralOwner, 79, NoPlanet},
-        {false, 10, 3, AllPlanets, 39, 50}};
+        {true, 10, 10, 10, 76, 98},
+        {true, 9, 10, AllPlanets, 38, 49},
+        {true, 2, NeutralOwner, NeutralOwner, 77, 99},
+        {false, 10, 3, AllPlanets, 0, 11}};
     for (const auto& [started, players, owner, listed, first, last] : rows) {
         SCOPED_TRACE(testing::Message() << owner << " of " << players);
-        GameState state = BoardGame(101, owner, 39);
+        GameState state = BoardGame(101, owner, 38);
         state.Game.StartTime = started ? 1 : 0;
         state.Game.NumPlayers = players;
         state.View.MarkedOwner = 3;
         RelistBoard(state);
         EXPECT_EQ(state.View.MarkedOwner, NoOwner);
         EXPECT_EQ(state.View.BoardPlayer, listed);
-        state.View.BoardPosition = 39;
         EXPECT_EQ(ListBoard(state).front(), first);
         EXPECT_EQ(ListBoard(state).back(), last);
     }

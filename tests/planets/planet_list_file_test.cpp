@@ -23,7 +23,7 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"N,3x,1,Blue", {"N", 3, 1, Blue}},
     {"N,x3,+4", {"N", 0, 4, None}},
     {"N,-.5,--3,RED", {"N", 0, 0, Red}},
-    {"N,1 \t2,1e1", {"N", 12, 10, None}},
+    {"N,1 \t2,1d1", {"N", 12, 10, None}},
     {"N,1e-999,0e999", {"N", 0, 0, None}},
     {"N,&HfF,&o17", {"N", 255, 15, None}},
     {"N,\xD9\xA3,\xC2\xA0\x37", {"N", 0, 0, None}}, // only ASCII digits and blanks count

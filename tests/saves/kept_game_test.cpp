@@ -87,6 +87,12 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
         EXPECT_EQ(Starts(), move.After);
         EXPECT_EQ(NotesIn(KeptGameName), "new");
     }
+    Put({5, 4, 3, 2});
+    KeptGame kept(GameOf(0, ""));
+    for (const std::int64_t start : {6, 0, 7}) { // played one after another
+        kept.Keep(GameOf(start, "new"));
+    }
+    EXPECT_EQ(Starts(), "7654-");
     Put({3, 2});
     QFile::remove(KeptGameNames[2]);
     SetFault({.Call = "rename", .Number = 1});
