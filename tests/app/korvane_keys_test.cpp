@@ -52,6 +52,7 @@ TEST(Keys, ReturnDoesWhatSpaceDoes) {
         for (const char* control :
              {"Enviro(2)", "AddTAbutton", "TradePlayer(2)", "StartGameButton"}) {
             game.Focus(control);
+            game.Key(Qt::Key_A); // does nothing
             game.Key(key);
         }
         EXPECT_TRUE(game.state.Game.Player(2).Enviro);

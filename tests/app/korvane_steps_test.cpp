@@ -50,6 +50,11 @@ TEST(Steps, AreTakenBackAndMadeAgainByKeyAndSaidInTheContextMenu) {
     game.Redo();
     game.Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(game.Caption("PlayerInfluence", 3), "10");
+    for (const char* control :
+         {"AddTAbutton", "TradePlayer(3)", "TradePlayer(5)", "RemoveTAButton"}) {
+        game.Click(control);
+    }
+    EXPECT_EQ(MenuTexts(game).first(), "Undo Remove");
 }
 
 TEST(Steps, TheLastTenAreListedAndTheGameReturnsToTheOneThatIsChosen) {

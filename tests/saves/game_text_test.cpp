@@ -21,10 +21,16 @@ TEST(GameText, ReadsAndWritesGamesOfTheFirstVersion) {
     }
 }
 
-TEST(GameText, ANameThatIsNoTextIsSavedAsOne) {
+TEST(GameText, WhatAGameCanHoldCanBeSavedAndNoMore) {
     GameState game = SampleGame();
     game.Game.Player(3).Name = "half \xED\xA0\xBD of a pair, cut \xF0\x9F";
-    EXPECT_TRUE(ReadGame(*WriteGame(game)));
+    for (const auto modifier : {std::int16_t{0}, std::int16_t{MaxModifier}}) {
+        game.Game.GreenModifier = game.Game.BlueModifier = modifier;
+        game.Game.YellowModifier = game.Game.RedModifier = modifier;
+        EXPECT_TRUE(ReadGame(*WriteGame(game)));
+    }
+    game.Game.Player(game.Game.NumPlayers).TradeRing = 3;
+    EXPECT_FALSE(ReadGame(*WriteGame(game))) << "the last player is checked, too";
 }
 
 // What stands in a whole file at least once, what damage makes of it, and what is then reported.
