@@ -21,6 +21,8 @@ inline GameState GameOfTwentyPlanets() {
     }
     planets[0].Name = "Quessin";
     planets[1].Specialty = Specialty::Blue;
+    planets[2].Specialty = Specialty::Red;
+    planets[3].Specialty = Specialty::Green;
     SetPlanets(state.Game, planets);
     return state;
 }

@@ -1,12 +1,10 @@
 // Every window to the pixel. A picture in pictures/ is one that somebody looked at and found right.
 
-#include "controls/accessible_names.h"
 #include "controls/message_box.h"
 #include "dialogs/dice_form.h"
 #include "tests/game_window.h"
 #include "tests/saves/sample_game.h"
 
-#include <QAccessible>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFontDatabase>
@@ -290,51 +288,6 @@ void ExpectAsTaken(const QString& name, const QImage& picture) {
         Difference(before, now).save(Left + '/' + name + "-difference.png");
         ADD_FAILURE() << "does not look as before; see " << left.toStdString();
     }
-}
-
-/// What a screen reader says of each control, its tip, and where it stands.
-QString Described(const QWidget& window) {
-    QString text =
-        QString("\n%1 (%2)\n").arg(window.windowTitle()).arg(window.windowFlags().toInt(), 0, 16);
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        const QString name = control->objectName();
-        if (control->window() == &window && !name.isEmpty() && !name.startsWith("qt_")) {
-            const auto* said = QAccessible::queryAccessibleInterface(control);
-            QString line = QString("%1 %2,%3").arg(name).arg(control->x()).arg(control->y());
-            for (const QString& words :
-                 {said->text(QAccessible::Name), said->text(QAccessible::Description),
-                  control->toolTip()}) {
-                line += " | " + QString(words).replace('\n', " / ");
-            }
-            text += line + '\n';
-        }
-    }
-    return text;
-}
-
-TEST(Pictures, SayWhatTheyShow) {
-    InstallAccessibleNames();
-    const GameWindow setup;
-    setup.SetPlayers(MaxPlayers);
-    Evening play(MaxPlayers);
-    play.Play();
-    QString said = Described(setup.window) + Described(play.window);
-    for (const char* item :
-         {"LGame", "SGame", "Stech", "HTech", "MenuTechMod", "About", "Notes", "Dice"}) {
-        const GameWindow game;
-        game.Choose(item);
-        for (const QWidget* form : game.window.findChildren<QWidget*>()) {
-            said +=
-                form->windowType() == Qt::Popup || !form->isWindow() ? QString() : Described(*form);
-        }
-    }
-    play.Find("PlayerName", 2)->Activate();
-    said += Described(*play.Find<QWidget>("ColorSelectForm"));
-    QFile file(Taken + "/said.txt");
-    const QString before = file.open(QIODevice::ReadOnly) ? file.readAll() : QString();
-    QFile left(Left + "-said.txt");
-    EXPECT_TRUE(left.open(QIODevice::WriteOnly) && left.write(said.toUtf8()) > 0);
-    EXPECT_TRUE(said == before) << "compare with " << left.fileName().toStdString();
 }
 
 TEST(Pictures, AreAsTheyWereTaken) {

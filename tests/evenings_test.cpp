@@ -1,0 +1,184 @@
+// Evenings that are told in a text: what somebody does, and what is then seen, or said by a screen
+// reader, that was not so before. Lines that begin with ">" do something; "#" is for the reader.
+
+#include "controls/accessible_names.h"
+#include "tests/game_window.h"
+#include "tests/saves/saves_folder.h"
+
+#include <QAccessible>
+#include <QAction>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+
+namespace ksm {
+namespace {
+
+/// Of each control what there is to tell about it.
+using Facets = std::map<QString, QString>;
+using Seen = std::map<QString, Facets>;
+
+QString Colours(const QWidget& control) {
+    const auto colour = [&](QPalette::ColorRole role) {
+        const QColor own = control.palette().color(role);
+        return own == QApplication::palette().color(role) ? "as usual" : own.name();
+    };
+    const QString text = colour(QPalette::WindowText) + " on " + colour(QPalette::Window);
+    return text == "as usual on as usual" ? QString() : text;
+}
+
+Facets FacetsOf(QWidget& control, const GameWindow& game) {
+    auto* said = QAccessible::queryAccessibleInterface(&control);
+    const auto* value = said->valueInterface();
+    const QString description = said->text(QAccessible::Description);
+    const QWidget* window = control.window();
+    const QWidget* origin = window == &game.window ? game.window.centralWidget() : window;
+    const QPoint place = control.isWindow()
+                             ? control.pos() - game.window.pos()
+                             : control.mapToGlobal(QPoint()) - origin->mapToGlobal(QPoint());
+    return {{"at", QString("%1,%2").arg(place.x()).arg(place.y())},
+            {"title", control.windowTitle()},
+            {"name", said->text(QAccessible::Name)},
+            {"says", description},
+            {"tip", control.toolTip() == description ? QString() : control.toolTip()},
+            {"value", value ? value->currentValue().toString() : said->text(QAccessible::Value)},
+            {"colours", Colours(control)},
+            {"greyed", control.isEnabled() ? "" : "yes"},
+            {"checked", said->state().checked ? "yes" : ""},
+            {"modal", control.isModal() ? "yes" : ""}};
+}
+
+Seen See(const GameWindow& game) {
+    const QWidget* focused = QApplication::focusWidget();
+    Seen seen{{"The focus", {{"is on", focused ? focused->objectName() : "nothing"}}},
+              {"The folder", {{"has", QDir().entryList(QDir::Files | QDir::Hidden).join(", ")}}}};
+    for (QWidget* control : QApplication::allWidgets()) {
+        const QString name = control->objectName();
+        const QWidget* window = control->window();
+        const bool isBeside = window != control && window != &game.window;
+        if (control->isVisible() && !name.isEmpty() && !name.startsWith("qt_")) {
+            seen[isBeside ? window->objectName() + ' ' + name : name] = FacetsOf(*control, game);
+        }
+    }
+    for (const QAction* item : game.window.findChildren<QAction*>()) {
+        seen["In the menu " + item->objectName()] = {{"is", item->text()},
+                                                     {"checked", item->isChecked() ? "yes" : ""},
+                                                     {"greyed", item->isEnabled() ? "" : "yes"}};
+    }
+    return seen;
+}
+
+/// A line for each control that is not as it was last seen, and which ones came back or went.
+QStringList New(Seen& known, const Seen& before, const Seen& now) {
+    QStringList lines;
+    QStringList back;
+    QStringList gone;
+    for (const auto& [control, facets] : now) {
+        QString line;
+        Facets& old = known[control];
+        for (const auto& [facet, text] : facets) {
+            if (text != std::exchange(old[facet], text)) {
+                line += " | " + facet + ' ' + (text.isEmpty() ? "no more" : text);
+            }
+        }
+        if (!line.isEmpty()) {
+            lines << QString(control + line).replace('\n', " / ");
+        } else if (!before.contains(control)) {
+            back << control;
+        }
+    }
+    for (const auto& [control, facets] : before) {
+        now.contains(control) ? void() : gone.append(control);
+    }
+    back.isEmpty() ? void() : lines.append("back: " + back.join(", "));
+    gone.isEmpty() ? void() : lines.append("gone: " + gone.join(", "));
+    return lines;
+}
+
+/// Does what a line says: a verb, the name of a control, and what it needs beside.
+void Do(GameWindow& game, const QString& deed) {
+    SCOPED_TRACE(deed.toStdString());
+    const QString verb = deed.section(' ', 0, 0);
+    const QByteArray name = deed.section(' ', 1, 1).toLatin1();
+    const QString with = deed.section(' ', 2);
+    const auto control = [&] { return game.Find<QWidget>(name); };
+    const std::map<QString, std::function<void()>> verbs{
+        {"click", [&] { game.Click(name); }},
+        {"choose", [&] { game.Choose(name); }},
+        {"move", [&] { game.Move(name, with.toInt()); }},
+        {"take",
+         [&] {
+             auto* list = game.Find<QComboBox>(name);
+             emit list->activated(list->findText(with));
+         }},
+        {"focus", [&] { game.Activate(control()->window()), control()->setFocus(); }},
+        {"key",
+         [&] {
+             const QKeyCombination key = QKeySequence(name)[0];
+             game.Key(key.key(), key.keyboardModifiers());
+         }},
+        {"type", [&] { QTest::keyClicks(QApplication::focusWidget(), deed.section(' ', 1)); }},
+        {"wheel", [&] { Turn(control(), with.toInt()); }},
+        {"press", [&] { game.Press(name.toInt()); }},
+        {"over", [&] { game.MoveOver(control()); }},
+        {"drop", [&] { game.DropOn(control()); }},
+        {"close", [&] { game.Close(name); }}};
+    verbs.at(verb)();
+    DeleteClosed();
+    // As a window manager does.
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal || !QApplication::activeWindow()) {
+        game.Activate(modal ? modal : &game.window);
+    }
+}
+
+/// The lines of a text, with what comes of the deeds as it is now.
+QStringList Told(const QStringList& lines) {
+    GameWindow game;
+    game.Activate();
+    MessageBoxes boxes;
+    Seen before = See(game);
+    Seen known = before;
+    QStringList told;
+    for (const QString& line : lines) {
+        if (line.startsWith('#') || line.isEmpty()) {
+            told << line;
+        } else if (line == "> look") {
+            told << line << New(known = {}, {}, before);
+        } else if (line.startsWith('>')) {
+            Do(game, line.mid(2));
+            EXPECT_TRUE(OnScreen(game.window) == Picture(game.window))
+                << "something was not painted anew: " << line.toStdString();
+            const Seen now = See(game);
+            told << line << New(known, std::exchange(before, now), now);
+            for (QString& text : std::exchange(boxes.Said, {})) {
+                told << "box: " + text.replace(QDir::currentPath(), "~");
+            }
+        }
+    }
+    return told;
+}
+
+using Evenings = SavesFolder;
+
+TEST_F(Evenings, GoAsTold) {
+    InstallAccessibleNames();
+    QDir().mkpath(EVENINGS_LEFT);
+    for (const QFileInfo& text : QDir(EVENINGS).entryInfoList({"*.txt"})) {
+        QFile file(text.filePath());
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        const QStringList lines = QString(file.readAll()).split('\n');
+        const QStringList told = Told(lines);
+        const auto [was, is] = std::ranges::mismatch(lines, told);
+        if (lines != told) {
+            QFile left(QString(EVENINGS_LEFT "/") + text.fileName());
+            EXPECT_TRUE(left.open(QFile::WriteOnly) && left.write(told.join('\n').toUtf8()) > 0);
+            ADD_FAILURE() << left.fileName().toStdString() << ", line " << is - told.begin() + 1
+                          << ": " << (is == told.end() ? "" : is->toStdString());
+        }
+    }
+}
+
+} // namespace
+} // namespace ksm
