@@ -5,9 +5,6 @@
 #include "saves/game_file.h"
 #include "saves/game_text.h"
 #include "tests/random_play.h"
-#include "tests/saves/saves_folder.h"
-
-#include <QPlainTextEdit>
 
 namespace ksm {
 namespace {
@@ -103,29 +100,6 @@ TEST(ShowGame, ShowsWhatWasPlayedTakenBackSavedAndLoadedAndOnlyReads) {
     EXPECT_EQ(announced.count(), 0);
     GameWindow made(played.state);
     ExpectSame(made, played);
-}
-
-using LoadedGames = SavesFolder;
-
-TEST_F(LoadedGames, BringTheirNotesAlongAndTakingThemBackTheOldOnes) {
-    SaveGameFile("a.ksm", WithNotes("new"));
-    GameWindow game;
-    game.Activate();
-    game.Choose("Notes");
-    auto* box = game.Find<QPlainTextEdit>("Aant");
-    QTest::keyClicks(box, "old");
-    game.Load("a.ksm");
-    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(game.state.NotesText, "new") << "the text's own steps begin anew";
-    EXPECT_TRUE(game.state.Game.Started());
-    game.Activate();
-    GameWindow::Undo();
-    EXPECT_FALSE(game.state.Game.Started()) << "a load can be taken back";
-    EXPECT_EQ(box->toPlainText(), "old");
-    EXPECT_EQ(game.state.NotesText, "old");
-    GameWindow::Redo();
-    QTest::keyClicks(box, "er");
-    EXPECT_EQ(game.state.NotesText, "newer") << "writing goes on at the end";
 }
 
 /// Names the controls that are painted while it lives.

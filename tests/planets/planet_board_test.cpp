@@ -37,28 +37,6 @@ std::string Colours(const GameWindow& board) {
     return letters;
 }
 
-TEST(PlanetBoard, ADropOnNoOwnerGivesNothing) {
-    const std::tuple<int, const char*, QPoint, const char*> rows[]{
-        // The mark stays until another owner is passed over, or the drop is cancelled.
-        {2, "InvasionPlayer(20)", {9, 9}, "..Y..R...R"},
-        {2, "InvasionPic", {60, 177}, "..Y......."},
-        {6, "InvasionResInf(9)", {9, 9}, "......Y..."}, // which is empty
-        {AllPlanets, "InvasionPlanet(3)", {9, 9}, ".....R.Y.R"}};
-    for (const auto& [listed, target, place, colours] : rows) {
-        SCOPED_TRACE(target);
-        const GameWindow board(InPlay(listed));
-        board.Press(listed == 6 ? 0 : 1);
-        board.MoveOver(board.Owner(4));
-        board.MoveOver(board.Owner(5));
-        Turn(board.Row(3), -1); // what is under the pointer stays there
-        board.DropOn(board.Find<QWidget>(target), place);
-        EXPECT_FALSE(board.Find<QWidget>("DragOutline")->isVisible());
-        EXPECT_EQ(Colours(board), colours);
-        EXPECT_EQ(board.state.Game.Planet(listed == AllPlanets ? 1 : 5).Owner,
-                  listed == AllPlanets ? NeutralOwner : 2);
-    }
-}
-
 // What is dragged by mouse or carried by keyboard, and what comes between.
 TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
     const struct {
@@ -104,27 +82,6 @@ TEST(PlanetBoard, ADropOnAWindowOverTheBoardDoesNothing) {
     board.Drag(0, 6);
     EXPECT_EQ(Colours(board), ".......Y..") << "nor is an owner marked that is not seen";
     EXPECT_EQ(board.state.Game.Planet(0).Owner, NeutralOwner);
-}
-
-// The keyboard's way: Return picks up, arrows carry, Return sets down, Escape puts back.
-TEST(PlanetBoard, APlanetCanBeGivenAwayByKeyboard) {
-    GameWindow board(InPlay(2));
-    board.Activate();
-    board.Focus("InvasionPlanet(0)");
-    const std::tuple<Qt::Key, const char*, const char*> keys[]{
-        {Qt::Key_Return, "R.Y.....R.", ", over Neutral"},
-        {Qt::Key_Down, ".RY.....R.", ", over Player 1"},
-        {Qt::Key_Right, "..YR....R.", ", over Player 3"}, // passes over the listed owner
-        {Qt::Key_Return, "..Y.......", ""},
-        {Qt::Key_Space, "R.Y.....R.", ", over Neutral"},
-        {Qt::Key_Up, "..Y...R.R.", ", over Player 6"}, // round from the first owner to the last
-        {Qt::Key_Escape, "..Y.......", ""}};
-    for (const auto& [key, colours, over] : keys) {
-        board.Key(key);
-        EXPECT_EQ(Colours(board), colours);
-        EXPECT_EQ(board.Find("InvasionPlanet", 0)->Heading(), QString("Planet, row 1") + over);
-    }
-    EXPECT_EQ(board.state.Game.Planet(4).Owner, 3);
 }
 
 TEST(PlanetBoard, TheWheelScrollsAndRestingOnAPlanetTellsWhoseItIs) {

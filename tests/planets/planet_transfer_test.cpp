@@ -1,5 +1,4 @@
 #include "planets/planet_list_file.h"
-#include "planets/planet_text.h"
 #include "planets/planet_transfer.h"
 
 #include <algorithm>
@@ -34,16 +33,6 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     TransferPlanet(state, 0, NeutralOwner);
     EXPECT_EQ(List(state, 10), std::vector{19});
     EXPECT_EQ(List(state, NeutralOwner).back(), 0) << "appended, not sorted in";
-}
-
-TEST(PlanetText, SaysWhatThePlanetBrings) {
-    GameState state = GameOfTwentyPlanets();
-    state.Game.Player(10).PellamTools = true;
-    state.Game.Planet(18) = {"Ith", 1, 2, Specialty::Green, 10};
-    EXPECT_EQ(
-        PlanetFiguresText(state.Game, 18),
-        "1 resource, 2 influence\nmakes green technology cheaper by its resources and one more "
-        "(Pellam Tools)");
 }
 
 } // namespace

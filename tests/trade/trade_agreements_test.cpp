@@ -2,7 +2,6 @@
 #include "trade/trade_agreements.h"
 #include "trade/trade_laws.h"
 #include "trade/trade_selection.h"
-#include "trade/trade_text.h"
 
 #include <gtest/gtest.h>
 
@@ -81,23 +80,6 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
         EXPECT_EQ(game.TradeMode, row.Mode);
         EXPECT_EQ(game.TradeAgreements, wanted);
     }
-}
-
-TEST(TradeTexts, SayWithWhomAPlayerTradesAndWhichLawsBind) {
-    Game game = NamedPlayers();
-    game.Cell(3, 10) = game.Cell(1, 3) = Agreement;
-    game.IndepFirst = 3;
-    game.IndepSecond = 4;
-    game.Laws.FreeTrade = true;
-    EXPECT_EQ(TradeText(game, 3),
-              "P3 trades with P1, P10\nFree Trade: five credits for each partner\n"
-              "Economic Independance: no trade with P4");
-    game.Laws = {.TradeRestrictions = true};
-    EXPECT_EQ(TradeText(game, 4),
-              "P4 has no Trade Agreement\nTrade Restrictions: an agreement brings the smaller "
-              "planet count of the two\nEconomic Independance: no trade with P3");
-    game.Laws = {};
-    EXPECT_EQ(TradeText(game, 5), "P5 has no Trade Agreement");
 }
 
 } // namespace
