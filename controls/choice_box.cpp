@@ -7,6 +7,9 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
+#include <array>
+
 namespace ksm {
 
 ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringList& entries,
@@ -14,6 +17,7 @@ ChoiceBox::ChoiceBox(const QString& objectName, QString caption, const QStringLi
     : QComboBox(parent), emptyCaption(std::move(caption)) {
     setObjectName(objectName);
     setInsertPolicy(NoInsert);
+    setFocusPolicy(Qt::StrongFocus); // none by the wheel, which does nothing here
     MakeLineEdit();
     // Not a shared model: setting one makes the whole drop-down list at once.
     addItems(entries);
@@ -91,14 +95,10 @@ void ChoiceBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
+    constexpr std::array openers{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+    if (std::ranges::find(openers, event->key()) != openers.end()) {
         showPopup();
-        break;
-    default:
+    } else {
         QComboBox::keyPressEvent(event);
     }
 }
