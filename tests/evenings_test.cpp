@@ -107,6 +107,7 @@ void Do(GameWindow& game, const QString& deed) {
         {"click", [&] { game.Click(name); }},
         {"choose", [&] { game.Choose(name); }},
         {"move", [&] { game.Move(name, with.toInt()); }},
+        {"players", [&] { game.SetPlayers(name.toInt()); }},
         {"take",
          [&] {
              auto* list = game.Find<QComboBox>(name);
