@@ -28,17 +28,25 @@ QString Colours(const QWidget& control) {
     return text == "as usual on as usual" ? QString() : text;
 }
 
+/// In its window, of a window from the main one, and of that from the middle of the screen.
+QString PlaceOf(const QWidget& control, const Korvane& game) {
+    const QWidget* window = control.window();
+    const QWidget* origin = window == &game ? game.centralWidget() : window;
+    const QPoint place =
+        &control == &game    ? game.geometry().center() - game.screen()->geometry().center()
+        : control.isWindow() ? control.pos() - game.pos()
+                             : control.mapToGlobal(QPoint()) - origin->mapToGlobal(QPoint());
+    return QString("%1,%2").arg(place.x()).arg(place.y());
+}
+
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
     auto* said = QAccessible::queryAccessibleInterface(&control);
     const auto* value = said->valueInterface();
     const QString description = said->text(QAccessible::Description);
-    const QWidget* window = control.window();
-    const QWidget* origin = window == &game.window ? game.window.centralWidget() : window;
-    const QPoint place = control.isWindow()
-                             ? control.pos() - game.window.pos()
-                             : control.mapToGlobal(QPoint()) - origin->mapToGlobal(QPoint());
-    return {{"at", QString("%1,%2").arg(place.x()).arg(place.y())},
+    return {{"at", PlaceOf(control, game.window)},
             {"title", control.windowTitle()},
+            {"flags",
+             control.isWindow() ? QString::number(control.windowFlags().toInt(), 16) : QString()},
             {"name", said->text(QAccessible::Name)},
             {"says", description},
             {"tip", control.toolTip() == description ? QString() : control.toolTip()},
