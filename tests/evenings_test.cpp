@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QClipboard>
 
 #include <algorithm>
 #include <functional>
@@ -128,6 +129,11 @@ void Do(GameWindow& game, const QString& deed) {
              game.Key(key.key(), key.keyboardModifiers());
          }},
         {"type", [&] { QTest::keyClicks(QApplication::focusWidget(), deed.section(' ', 1)); }},
+        {"paste",
+         [&] {
+             QGuiApplication::clipboard()->setText(deed.section(' ', 1));
+             game.Key(Qt::Key_V, Qt::ControlModifier);
+         }},
         {"wheel", [&] { Turn(control(), with.toInt()); }},
         {"press", [&] { game.Press(name.toInt()); }},
         {"over", [&] { game.MoveOver(control()); }},

@@ -3,27 +3,9 @@
 
 #include <QClipboard>
 #include <QListWidget>
-#include <QPlainTextEdit>
 
 namespace ksm {
 namespace {
-
-TEST(Dialogs, EveryChangeOfTheNotesIsKeptAtOnceAndOutlivesTheWindow) {
-    GameWindow game;
-    for (const char* before : {"", "tax\né€\t😀"}) {
-        game.Choose("Notes");
-        auto* box = game.Find<QPlainTextEdit>("Aant");
-        EXPECT_EQ(box->toPlainText(), before);
-        game.Activate(box->window());
-        box->clear();
-        QTest::keyClicks(box, "tax");
-        EXPECT_EQ(game.state.NotesText, "tax");
-        QGuiApplication::clipboard()->setText(QString::fromUtf8("\né€\t😀"));
-        game.Key(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(game.state.NotesText, "tax\né€\t😀");
-        game.Close("NoteForm");
-    }
-}
 
 TEST(Dialogs, ATabOrALineFeedInANameBecomesABlankAndTheShortNameCountsCharacters) {
     GameWindow game;
