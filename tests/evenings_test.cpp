@@ -2,6 +2,7 @@
 // reader, that was not so before. Lines that begin with ">" do something; "#" is for the reader.
 
 #include "controls/accessible_names.h"
+#include "saves/kept_game.h"
 #include "tests/game_window.h"
 #include "tests/saves/saves_folder.h"
 
@@ -60,7 +61,8 @@ Facets FacetsOf(QWidget& control, const GameWindow& game) {
 
 Seen See(const GameWindow& game) {
     const QWidget* focused = QApplication::focusWidget();
-    Seen seen{{"The focus", {{"is on", focused ? focused->objectName() : "nothing"}}},
+    const QString focus = focused ? focused->objectName() : QString();
+    Seen seen{{"The focus", {{"is on", focus.isEmpty() ? "nothing" : focus}}},
               {"The folder", {{"has", QDir().entryList(QDir::Files | QDir::Hidden).join(", ")}}}};
     for (QWidget* control : QApplication::allWidgets()) {
         const QString name = control->objectName();
@@ -150,7 +152,11 @@ void Do(GameWindow& game, const QString& deed) {
 
 /// The lines of a text, with what comes of the deeds as it is now.
 QStringList Told(const QStringList& lines) {
-    GameWindow game;
+    const QTemporaryDir folder;
+    QDir::setCurrent(folder.path());
+    const GameState start = GameOfTwentyPlanets();
+    KeptGame kept(start);
+    GameWindow game(start, &kept);
     game.Activate();
     MessageBoxes boxes;
     Seen before = See(game);
@@ -160,7 +166,7 @@ QStringList Told(const QStringList& lines) {
         if (line.startsWith('#') || line.isEmpty()) {
             told << line;
         } else if (line == "> look") {
-            told << line << New(known = {}, {}, before);
+            told << line << New(known = {}, before, before);
         } else if (line.startsWith('>')) {
             Do(game, line.mid(2));
             EXPECT_TRUE(OnScreen(game.window) == Picture(game.window))
