@@ -24,21 +24,13 @@ TEST(CaptionLabel, TellsAllOfWhatIsTooWideAsTyped) {
     }
 }
 
-TEST(SpinBar, StepsForEachClickAndForANotchWhereTheFocusIs) {
+TEST(SpinBar, StepsForEachHalfOfADoubleClick) {
     QWidget window;
     SpinBar bar("Bar", QRect(0, 0, 17, 25), &window);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    bar.setFocus();
     bar.SetRange(0, 9, 5);
+    window.show();
     QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
     EXPECT_EQ(bar.value(), 7);
-    Turn(&bar, 1);
-    EXPECT_EQ(bar.value(), 6);
-    bar.clearFocus();
-    Turn(&bar, 1);
-    EXPECT_EQ(bar.value(), 6) << "whoever scrolls past means something else";
 }
 
 struct InputGuards : testing::Test {
