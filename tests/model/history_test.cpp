@@ -42,7 +42,7 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
     // makes it again.
     const std::pair<const char*, std::vector<int>> rows[]{
         {"2{324{56}}7", {7, 6, 4, 2, 1}}, // back where it began in between, and one within another
-        {"{2}~3}", {3, 1}},
+        {"{2}~3}{45}", {5, 3, 1}},
         {"{2}9~3}", {3, 9, 2, 1}},
         {"{2<34}", {4, 1}},
         {"{2<>3}", {3, 2, 1}}};
