@@ -32,11 +32,12 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](G& g) { SetName(g, 4, "Ada", "Dor"); }, "name, Ada"},
         {[](G& g) { SetColours(g, 4, {}); }, "colour, Dora"},
         {[](G& g) { g.Cell(10, 1) = Agreement; }, "agreement of Player 10 and Player 1"},
-        {[](G& g) { g.Cell(2, 5) = NoAgreement; }, "end of the agreement of Player 2 and Emil"},
+        {[](G& g) { g.Cell(1, 5) = NoAgreement; }, "end of the agreement of Player 1 and Emil"},
         {[](G& g) { StopTrade(g); }, "Trade Stop"},
         {[](G& g) { g.TradeMode = TradeMode::AddPartner; }, "Add"},
         {[](G& g) { ToggleEconomicIndependence(g); }, "Economic Independance"},
         {[](G& g) { g.Laws.LabourUnion = true; }, "Labour Union"},
+        {[](G& g) { g.Laws.TradeRestrictions = true; }, "Trade Restrictions"},
         {[](G& g) { g.YellowModifier = 0; }, "Tech Modifiers"},
         {[](G& g) { g.Planet(0).Owner = g.Planet(1).Owner = 5; }, "Quessin to Emil and 1 more"},
     };

@@ -108,6 +108,13 @@ TEST_F(KeptGames, StayOutOfWhatCannotBeRead) {
     }
     EXPECT_EQ(Keep(1).substr(0, 14), "\"autosave.ksm\"");
     EXPECT_EQ(QFileInfo(KeptGameName).size(), 13) << "nothing is replaced";
+    Put({1});
+    for (const std::size_t place : {1, 2}) {
+        QFile::remove(KeptGameNames.at(place));
+    }
+    QDir().mkdir(KeptGameNames[1]);
+    EXPECT_EQ(Keep(2).substr(0, 16), "\"autosave-1.ksm\"") << "a folder is in the way";
+    EXPECT_EQ(NotesIn(KeptGameName), "old");
 }
 
 TEST_F(KeptGames, NoneIsLostWhereverTheProgramIsKilled) {
