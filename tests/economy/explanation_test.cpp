@@ -23,5 +23,18 @@ TEST(Explanation, SaysThatADiscountIsLimitedToTheBaseCost) {
               "- 1 Tech Modifiers");
 }
 
+TEST(Explanation, NamesTwelvePlanetsAtMost) {
+    Game game;
+    SetPlanets(game, PlanetList(13, {"Far", 2, 1}));
+    for (int planet = 0; planet < 13; ++planet) {
+        game.Planet(planet).Owner = 1;
+    }
+    UpdateValues(game);
+    EXPECT_EQ(ExplanationText(game, 1, Figure::Influence), "Influence 13 = 13 from planets");
+    game.Planet(0).Owner = NeutralOwner;
+    UpdateValues(game);
+    EXPECT_TRUE(ExplanationText(game, 1, Figure::Planets).ends_with("+ 1 Far\n+ 1 Far"));
+}
+
 } // namespace
 } // namespace ksm

@@ -26,6 +26,7 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"N,1 \t2,1d1", {"N", 12, 10, None}},
     {"N,1e-999,0e999", {"N", 0, 0, None}},
     {"N,&HfF,&o17", {"N", 255, 15, None}},
+    {"N,&H,&o8", {"N", 0, 0, None}},
     {"N,\xD9\xA3,\xC2\xA0\x37", {"N", 0, 0, None}}, // only ASCII digits and blanks count
 };
 
