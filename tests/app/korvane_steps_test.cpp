@@ -3,7 +3,6 @@
 #include "tests/game_window.h"
 
 #include <QMenu>
-#include <QPlainTextEdit>
 
 namespace ksm {
 namespace {
@@ -116,27 +115,9 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     EXPECT_EQ(MenuTexts(game).first(), "[Undo]");
 }
 
-TEST(Steps, WorkBesideTheMainWindowAndLeaveAloneWhatIsListedAndTheNotes) {
+TEST(Menus, OpenByAltAndTheirLetter) {
     GameWindow game;
     game.Activate();
-    game.Click("Enviro", 1);
-    game.Start();
-    game.Undo();
-    EXPECT_TRUE(game.state.Game.Started() && game.state.Game.Player(1).Enviro) << "is final";
-    game.Click("InvasionPlayer", 3);
-    game.Choose("Notes");
-    auto* notes = game.Find<QPlainTextEdit>("Aant");
-    game.Activate(notes->window());
-    QTest::keyClicks(notes, "tax");
-    game.Choose("TFree");
-    game.Undo();
-    EXPECT_EQ(game.state.NotesText, "") << "a text has steps of its own";
-    game.Redo();
-    game.Choose("Dice");
-    game.Activate(game.Find<QWidget>("DiceForm"));
-    game.Undo();
-    EXPECT_FALSE(game.state.Game.Laws.FreeTrade);
-    EXPECT_EQ(game.state.View.BoardPlayer, 3);
     game.Key(Qt::Key_F, Qt::AltModifier);
     EXPECT_TRUE(game.Find<QMenu>("File")->isVisible());
 }
