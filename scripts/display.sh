@@ -16,15 +16,22 @@ StartDisplay() {
 
     Xvfb -displayfd 3 -screen 0 1920x1200x24 -nolisten tcp \
         3>"$Scratch/display" 2>"$Scratch/xvfb.log" &
-    Await "$!" test -s "$Scratch/display" || Fail "Xvfb does not start:" "$Scratch/xvfb.log"
+    local server=$!
+    Await "$server" test -s "$Scratch/display" || Fail "Xvfb does not start:" "$Scratch/xvfb.log"
     unset WAYLAND_DISPLAY XAUTHORITY
     DISPLAY=:$(<"$Scratch/display")
     export DISPLAY
+    # On a busy machine it can tell its number before it answers.
+    Await "$server" Answers || Fail "Xvfb does not answer:" "$Scratch/xvfb.log"
     # Without a session bus the first program that asks for one would start it, and leave it behind.
     export DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS-disabled:}
 
     openbox --sm-disable >"$Scratch/openbox.log" 2>&1 &
     Await "$!" IsManaged || Fail "openbox does not start:" "$Scratch/openbox.log"
+}
+
+Answers() {
+    xdotool getdisplaygeometry >/dev/null 2>&1
 }
 
 IsManaged() {
