@@ -7,6 +7,7 @@
 #include "tests/saves/saves_folder.h"
 
 #include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QAction>
 #include <QClipboard>
 
@@ -114,6 +115,7 @@ void Do(GameWindow& game, const QString& deed) {
     const QByteArray name = deed.section(' ', 1, 1).toLatin1();
     const QString with = deed.section(' ', 2);
     const auto control = [&] { return game.Find<QWidget>(name); };
+    const auto reader = [&] { return QAccessible::queryAccessibleInterface(control()); };
     const std::map<QString, std::function<void()>> verbs{
         {"click", [&] { game.Click(name); }},
         {"choose", [&] { game.Choose(name); }},
@@ -140,6 +142,9 @@ void Do(GameWindow& game, const QString& deed) {
         {"press", [&] { game.Press(name.toInt()); }},
         {"over", [&] { game.MoveOver(control()); }},
         {"drop", [&] { game.DropOn(control()); }},
+        // As a screen reader does it.
+        {"do", [&] { reader()->actionInterface()->doAction(with); }},
+        {"set", [&] { reader()->valueInterface()->setCurrentValue(with.toInt()); }},
         {"close", [&] { game.Close(name); }}};
     verbs.at(verb)();
     DeleteClosed();
