@@ -45,15 +45,18 @@ QString PlaceOf(const QWidget& control, const Korvane& game) {
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
     auto* said = QAccessible::queryAccessibleInterface(&control);
     const auto* value = said->valueInterface();
-    const QString description = said->text(QAccessible::Description);
+    const QString name = said->text(QAccessible::Name);
+    const QString says = said->text(QAccessible::Description);
+    const QString text = said->text(QAccessible::Value); // of a list its name, by some a Qt
     return {{"at", PlaceOf(control, game.window)},
             {"title", control.windowTitle()},
-            {"flags",
-             control.isWindow() ? QString::number(control.windowFlags().toInt(), 16) : QString()},
-            {"name", said->text(QAccessible::Name)},
-            {"says", description},
-            {"tip", control.toolTip() == description ? QString() : control.toolTip()},
-            {"value", value ? value->currentValue().toString() : said->text(QAccessible::Value)},
+            {"flags", control.isWindow() ? QString::number(control.windowFlags(), 16) : ""},
+            {"name", name},
+            {"says", says},
+            {"tip", control.toolTip() == says ? QString() : control.toolTip()},
+            {"value", value          ? value->currentValue().toString()
+                      : text == name ? ""
+                                     : text},
             {"colours", Colours(control)},
             {"greyed", control.isEnabled() ? "" : "yes"},
             {"checked", said->state().checked ? "yes" : ""},

@@ -115,12 +115,5 @@ TEST(Steps, ADialogOrAHeldArrowOrKeyIsOneStep) {
     EXPECT_EQ(MenuTexts(game).first(), "[Undo]");
 }
 
-TEST(Menus, OpenByAltAndTheirLetter) {
-    GameWindow game;
-    game.Activate();
-    game.Key(Qt::Key_F, Qt::AltModifier);
-    EXPECT_TRUE(game.Find<QMenu>("File")->isVisible());
-}
-
 } // namespace
 } // namespace ksm
