@@ -109,7 +109,7 @@ TEST_F(KeptGames, StayOutOfWhatCannotBeRead) {
     EXPECT_EQ(Keep(1).substr(0, 14), "\"autosave.ksm\"");
     EXPECT_EQ(QFileInfo(KeptGameName).size(), 13) << "nothing is replaced";
     Put({1});
-    for (const std::size_t place : {1, 2}) {
+    for (const std::size_t place : {1U, 2U}) {
         QFile::remove(KeptGameNames.at(place));
     }
     QDir().mkdir(KeptGameNames[1]);
