@@ -103,7 +103,6 @@ struct GameWindow {
         ASSERT_TRUE(QTest::qWaitFor(isActive));
     }
     void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
-    static std::string Focused() { return QApplication::focusWidget()->objectName().toStdString(); }
     /// In whichever window has the focus.
     static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);

@@ -1,5 +1,4 @@
 #include "economy/value_update.h"
-#include "planets/board_listing.h"
 #include "tests/game_window.h"
 
 #include <QMenu>
@@ -11,14 +10,13 @@ namespace ksm {
 namespace {
 
 /// A game in play. Planets 4 to 18 belong to player 2, planet 19 to player 6, the others to nobody.
-GameState InPlay(int listed = AllPlanets) {
+GameState InPlay() {
     GameState state = GameOfTwentyPlanets();
     state.Game.StartTime = 1;
     for (int planet = 4; planet < 20; ++planet) {
         state.Game.Planet(planet).Owner = planet == 19 ? 6 : 2;
     }
     UpdateValues(state.Game);
-    ListOwner(state, listed);
     return state;
 }
 
