@@ -38,14 +38,15 @@ TEST(Dialogs, AClickAnywhereOnAChartButOnTheLegendUnloadsIt) {
 
 TEST(Dialogs, ThatStayOpenAreOpenedOnceAndCloseWithTheMainWindow) {
     for (const auto& [item, name] : {std::pair{"Notes", "NoteForm"}, {"Dice", "DiceForm"}}) {
-        GameWindow game;
+        const GameWindow game;
         game.Choose(item);
         const QPointer form(game.Find<QWidget>(name));
         form->hide();
         game.Choose(item);
         EXPECT_TRUE(form->isVisible());
         EXPECT_EQ(game.window.findChildren<QWidget*>(name).size(), 1);
-        game.window.close();
+        game.Choose("Quit");
+        EXPECT_FALSE(game.window.isVisible());
         EXPECT_TRUE(IsUnloaded(form));
     }
 }
