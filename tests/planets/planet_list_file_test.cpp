@@ -24,8 +24,11 @@ const std::pair<std::string, PlanetRecord> Lines[]{
     {"N,x3,+4", {"N", 0, 4, None}},
     {"N,-.5,--3,RED", {"N", 0, 0, Red}},
     {"N,1 \t2,1d1", {"N", 12, 10, None}},
+    {"N,5,6", {"N", 5, 6, None}},
+    {"N,7,8", {"N", 7, 8, None}},
+    {"N,9,.", {"N", 9, 0, None}},
     {"N,1e-999,0e999", {"N", 0, 0, None}},
-    {"N,&HfF,&o17", {"N", 255, 15, None}},
+    {"N,&HfA,&o17", {"N", 250, 15, None}},
     {"N,&H,&o8", {"N", 0, 0, None}},
     {"N,\xD9\xA3,\xC2\xA0\x37", {"N", 0, 0, None}}, // only ASCII digits and blanks count
 };
@@ -35,6 +38,16 @@ TEST(PlanetList, ReadsALineAs) {
         const Outcome<PlanetList> result = ReadPlanetList(line);
         ASSERT_TRUE(result) << result.Reason();
         EXPECT_EQ(*result, PlanetList{planet}) << testing::PrintToString(line);
+    }
+}
+
+TEST(PlanetList, OfAnyLengthIsDecoded) {
+    std::string utf8;
+    for (int letter = 0; letter < 5000; ++letter) {
+        utf8 += "\xC3\xAB";
+    }
+    for (const std::string& name : {utf8, std::string(5000, '\xEB')}) {
+        EXPECT_EQ(ReadPlanetList(name)->front().Name, utf8);
     }
 }
 
