@@ -3,6 +3,7 @@
 #include "economy/explanation.h"
 #include "economy/value_update.h"
 #include "planets/planet_list_file.h"
+#include "planets/planet_text.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +22,8 @@ TEST(Explanation, SaysThatADiscountIsLimitedToTheBaseCost) {
               "Blue cost -1 = 30 base cost of Orrun\n- 40 Ith\n- 1 Veran\n"
               "- 2 Pellam Tools (2 planets)\n+ 13 (the discount is limited to the base cost)\n"
               "- 1 Tech Modifiers");
+    EXPECT_EQ(PlanetFiguresText(game, 1), "1 resource, 0 influence\nmakes blue technology cheaper "
+                                          "by its resources and one more (Pellam Tools)");
 }
 
 TEST(Explanation, NamesTwelvePlanetsAtMost) {
@@ -31,6 +34,8 @@ TEST(Explanation, NamesTwelvePlanetsAtMost) {
     }
     UpdateValues(game);
     EXPECT_EQ(ExplanationText(game, 1, Figure::Influence), "Influence 13 = 13 from planets");
+    EXPECT_EQ(ExplanationText(game, 1, Figure::Planets),
+              "Planets 13 = 13 planets (a click on the owner lists them)");
 }
 
 } // namespace
