@@ -96,6 +96,7 @@ TEST(History, ALoadIsAStepOfItsOwnAndTakesItsNotesAlong) {
 
 TEST(History, ASelectionBelongsToTheStepThatBeganItButNotToALoad) {
     Steps steps;
+    steps.state.Game.IndepFirst = 1; // of a pair chosen before
     steps.state.Game.TradeMode = TradeMode::AddFirst;
     steps.Load(5, "");
     steps.Select(TradeMode::AddPartner, 3);
