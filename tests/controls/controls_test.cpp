@@ -29,6 +29,7 @@ TEST(SpinBar, StepsForEachHalfOfADoubleClick) {
     SpinBar bar("Bar", QRect(0, 0, 17, 25), &window);
     bar.SetRange(0, 9, 5);
     window.show();
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, {8, 20});
     QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, {8, 20});
     EXPECT_EQ(bar.value(), 7);
 }
