@@ -46,12 +46,15 @@ QString PlaceOf(const QWidget& control, const Korvane& game) {
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
     auto* said = QAccessible::queryAccessibleInterface(&control);
     const auto* value = said->valueInterface();
+    const QIcon icon = control.isWindow() ? control.windowIcon() : QIcon();
     const QString name = said->text(QAccessible::Name);
     const QString says = said->text(QAccessible::Description);
     const QString text = said->text(QAccessible::Value); // of a list its name, by some a Qt
     return {{"at", PlaceOf(control, game.window)},
             {"title", control.windowTitle()},
             {"flags", control.isWindow() ? QString::number(control.windowFlags(), 16) : ""},
+            {"icon",
+             icon.isNull() ? "" : icon.pixmap(16).toImage().pixelColor(8, 8).name(QColor::HexArgb)},
             {"name", name},
             {"says", says},
             {"tip", control.toolTip() == says ? QString() : control.toolTip()},
@@ -122,8 +125,13 @@ void Do(GameWindow& game, const QString& deed) {
     const auto reader = [&] { return QAccessible::queryAccessibleInterface(control()); };
     const std::map<QString, std::function<void()>> verbs{
         {"click", [&] { game.Click(name); }},
+        {"rightclick",
+         [&] {
+             QTest::mouseClick(PlatformWindow(control()), Qt::RightButton, {}, Centre(control()));
+         }},
         {"choose", [&] { game.Choose(name); }},
         {"move", [&] { game.Move(name, with.toInt()); }},
+        {"shift", [&] { game.window.move(game.window.pos() + QPoint(name.toInt(), 0)); }},
         {"players", [&] { game.SetPlayers(name.toInt()); }},
         {"take",
          [&] {
@@ -152,11 +160,12 @@ void Do(GameWindow& game, const QString& deed) {
         {"do", [&] { reader()->actionInterface()->doAction(with); }},
         {"set", [&] { reader()->valueInterface()->setCurrentValue(with.toInt()); }},
         {"close", [&] { game.Close(name); }}};
+    ASSERT_TRUE(verbs.contains(verb));
     verbs.at(verb)();
     DeleteClosed();
     // As a window manager does.
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal || !QApplication::activeWindow()) {
+    if (modal || (!QApplication::activeWindow() && game.window.isVisible())) {
         game.Activate(modal ? modal : &game.window);
     }
 }
@@ -178,7 +187,7 @@ QStringList Told(const QStringList& lines) {
             told << line << New(known = {}, before, before);
         } else if (line.startsWith('>')) {
             Do(game, line.mid(2));
-            EXPECT_TRUE(OnScreen(game.window) == Picture(game.window))
+            EXPECT_TRUE(OnScreen(game.window) == Picture(game.window) || game.window.isHidden())
                 << "something was not painted anew: " << line.toStdString();
             const Seen now = See(game);
             told << line << New(known, std::exchange(before, now), now);

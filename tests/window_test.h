@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -41,12 +40,6 @@ inline void Turn(const QWidget* control, int notches) {
                       false);
     QSpontaneKeyEvent::setSpontaneous(&notch);
     qApp->notify(PlatformWindow(control), &notch);
-}
-
-template<typename Window>
-bool IsUnloaded(const QPointer<Window>& window) {
-    DeleteClosed();
-    return window.isNull();
 }
 
 /// The window as it should be painted now.

@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QListWidget>
+#include <QPlainTextEdit>
 
 namespace ksm {
 namespace {
@@ -22,33 +23,11 @@ TEST(Dialogs, ATabOrALineFeedInANameBecomesABlankAndTheShortNameCountsCharacters
     EXPECT_EQ(changes.count(), 2) << "the name brings its short name along";
 }
 
-TEST(Dialogs, AClickAnywhereOnAChartButOnTheLegendUnloadsIt) {
+TEST(Dialogs, NotesKeepTheirLinesAndBlanks) {
     const GameWindow game;
-    for (const char* name : {"Label1(0)", "Label1(23)", "Label2", "TechForm2"}) {
-        game.Choose("HTech");
-        const QPointer form(game.Find<QWidget>("TechForm2"));
-        auto* place = name == form->objectName() ? form.data() : game.Find<QWidget>(name);
-        for (const auto button : {Qt::RightButton, Qt::LeftButton}) {
-            QTest::mouseClick(form->windowHandle(), button, {}, PlaceIn(place, {12, 12}));
-            EXPECT_EQ(IsUnloaded(form), button == Qt::LeftButton && name != QString("Label2"));
-        }
-        form ? game.Close("TechForm2") : void();
-    }
-}
-
-TEST(Dialogs, ThatStayOpenAreOpenedOnceAndCloseWithTheMainWindow) {
-    for (const auto& [item, name] : {std::pair{"Notes", "NoteForm"}, {"Dice", "DiceForm"}}) {
-        const GameWindow game;
-        game.Choose(item);
-        const QPointer form(game.Find<QWidget>(name));
-        form->hide();
-        game.Choose(item);
-        EXPECT_TRUE(form->isVisible());
-        EXPECT_EQ(game.window.findChildren<QWidget*>(name).size(), 1);
-        game.Choose("Quit");
-        EXPECT_FALSE(game.window.isVisible());
-        EXPECT_TRUE(IsUnloaded(form));
-    }
+    game.Choose("Notes");
+    game.Find<QPlainTextEdit>("Aant")->insertPlainText(QString::fromUtf8("1\n2\u20283\u00A0"));
+    EXPECT_EQ(game.state.NotesText, "1\n2\n3\u00A0");
 }
 
 using SavedGames = SavesFolder;
