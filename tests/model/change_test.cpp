@@ -37,6 +37,7 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](G& g) { g.TradeMode = TradeMode::AddPartner; }, "Add"},
         {[](G& g) { ToggleEconomicIndependence(g); }, "Economic Independance"},
         {[](G& g) { g.Laws.LabourUnion = true; }, "Labour Union"},
+        {[](G& g) { g.Laws.OrlenHouseRules = true; }, "Orlen house rules"},
         {[](G& g) { g.Laws.TradeRestrictions = true; }, "Trade Restrictions"},
         {[](G& g) { g.YellowModifier = 0; }, "Tech Modifiers"},
         {[](G& g) { g.Planet(0).Owner = g.Planet(1).Owner = 5; }, "Quessin to Emil and 1 more"},
