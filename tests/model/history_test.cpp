@@ -45,7 +45,8 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
         {"{2}~3}{45}", {5, 3, 1}},
         {"{2}9~3}", {3, 9, 2, 1}},
         {"{2<34}", {4, 1}},
-        {"{2<>3}", {3, 2, 1}}};
+        {"{2<>3}", {3, 2, 1}},
+        {"{2}!~3}", {3, 2}}}; // ! begins another game
     for (const auto& [deeds, docks] : rows) {
         Steps steps;
         for (const char deed : std::string_view(deeds)) {
@@ -61,6 +62,9 @@ TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
                 break;
             case '<':
                 steps.history.Undo(steps.state);
+                break;
+            case '!':
+                steps.history.Restart(steps.state.Game);
                 break;
             case '>':
                 steps.history.Redo(steps.state);
