@@ -1,5 +1,6 @@
 #include "economy/value_update.h"
 #include "trade/trade_agreements.h"
+#include "trade/trade_diagram.h"
 #include "trade/trade_laws.h"
 #include "trade/trade_selection.h"
 
@@ -79,6 +80,9 @@ TEST(TradeProtocol, ClicksRecordAgreements) {
         EXPECT_EQ(game.TradeInfo, row.Info);
         EXPECT_EQ(game.TradeMode, row.Mode);
         EXPECT_EQ(game.TradeAgreements, wanted);
+        const std::size_t drawn = game.TradeStrokes.size();
+        RedrawTradeDiagram(game);
+        EXPECT_EQ(drawn, game.TradeStrokes.size());
     }
 }
 
