@@ -57,7 +57,8 @@ TEST_F(KeptGames, OfAnotherProgramStaysAndTheMainWindowSaysSo) {
     EXPECT_EQ(NotesIn(KeptGameName), "old");
     const MessageBoxes boxes;
     game.Choose("SGame");
-    EXPECT_EQ(boxes.Said.value(2), "Another program keeps its game there.");
+    EXPECT_EQ(boxes.Said.mid(1), QStringList({"The running game is not kept in \"autosave.ksm\".",
+                                              "Another program keeps its game there."}));
 }
 
 // What the names hold before and after another program keeps a game, by the times of their start.
