@@ -187,8 +187,10 @@ QStringList Told(const QStringList& lines) {
             told << line << New(known = {}, before, before);
         } else if (line.startsWith('>')) {
             Do(game, line.mid(2));
-            EXPECT_TRUE(OnScreen(game.window) == Picture(game.window) || game.window.isHidden())
-                << "something was not painted anew: " << line.toStdString();
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                EXPECT_TRUE(window->isHidden() || OnScreen(*window) == Picture(*window))
+                    << "something was not painted anew: " << line.toStdString();
+            }
             const Seen now = See(game);
             told << line << New(known, std::exchange(before, now), now);
             for (QString& text : std::exchange(boxes.Said, {})) {
