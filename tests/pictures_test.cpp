@@ -149,7 +149,8 @@ QImage Dice() {
     QWidget owner;
     DiceForm form(&owner);
     auto* scroll = form.findChild<QScrollBar*>("Scroll");
-    QList<QImage> rolls{Grab(form)};
+    form.show();
+    QList<QImage> rolls{OnScreen(form)};
     for (const int position : {5, 0, 7, 4, scroll->maximum()}) {
         scroll->setValue(position);
         form.findChild<QPushButton*>("Command1")->click();
@@ -158,7 +159,7 @@ QImage Dice() {
         for (int value = 4; CaptionLabel * place : places) {
             place->SetCaption(left-- > 0 ? QString() : QString::number(value++));
         }
-        rolls << Grab(form);
+        rolls << OnScreen(form);
     }
     return Column(rolls);
 }
