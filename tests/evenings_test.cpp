@@ -188,7 +188,8 @@ QStringList Told(const QStringList& lines) {
         } else if (line.startsWith('>')) {
             Do(game, line.mid(2));
             for (QWidget* window : QApplication::topLevelWidgets()) {
-                EXPECT_TRUE(window->isHidden() || OnScreen(*window) == Picture(*window))
+                const auto isPainted = [&] { return OnScreen(*window) == Picture(*window); };
+                EXPECT_TRUE(window->isHidden() || QTest::qWaitFor(isPainted))
                     << "something was not painted anew: " << line.toStdString();
             }
             const Seen now = See(game);
