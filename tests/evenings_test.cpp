@@ -46,13 +46,14 @@ QString PlaceOf(const QWidget& control, const Korvane& game) {
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
     auto* said = QAccessible::queryAccessibleInterface(&control);
     const auto* value = said->valueInterface();
-    const QIcon icon = control.isWindow() ? control.windowIcon() : QIcon();
+    const bool isFramed = control.isWindow() && control.windowType() != Qt::Popup;
+    const QIcon icon = isFramed ? control.windowIcon() : QIcon();
     const QString name = said->text(QAccessible::Name);
     const QString says = said->text(QAccessible::Description);
     const QString text = said->text(QAccessible::Value); // of a list its name, by some a Qt
     return {{"at", PlaceOf(control, game.window)},
             {"title", control.windowTitle()},
-            {"flags", control.isWindow() ? QString::number(control.windowFlags(), 16) : ""},
+            {"flags", isFramed ? QString::number(control.windowFlags(), 16) : ""},
             {"icon",
              icon.isNull() ? "" : icon.pixmap(16).toImage().pixelColor(8, 8).name(QColor::HexArgb)},
             {"name", name},
@@ -81,9 +82,11 @@ Seen See(const GameWindow& game) {
         }
     }
     for (const QAction* item : game.window.findChildren<QAction*>()) {
-        seen["In the menu " + item->objectName()] = {{"is", item->text()},
-                                                     {"checked", item->isChecked() ? "yes" : ""},
-                                                     {"greyed", item->isEnabled() ? "" : "yes"}};
+        const QString name = item->objectName(); // none where it says what can be taken back
+        seen["In the menu " + (name.isEmpty() ? item->text().replace('\t', ' ') : name)] = {
+            {"is", name.isEmpty() ? QString() : item->text()},
+            {"checked", item->isChecked() ? "yes" : ""},
+            {"greyed", item->isEnabled() ? "" : "yes"}};
     }
     return seen;
 }
