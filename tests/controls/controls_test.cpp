@@ -1,5 +1,7 @@
 #include "controls/accessible_names.h"
+#include "controls/choice_box.h"
 #include "controls/input_guard.h"
+#include "controls/message_label.h"
 #include "controls/spin_bar.h"
 #include "tests/window_test.h"
 
@@ -21,6 +23,18 @@ TEST(CaptionLabel, TellsAllOfWhatIsTooWideAsTyped) {
         QApplication::sendEvent(&label, &rest);
         const QString whole = label.Caption() == "<b>" ? QString() : label.Caption() + '\n';
         EXPECT_EQ(AsRead(QToolTip::text()), whole + "1 < 2");
+    }
+}
+
+TEST(MessageLabel, TellsAllOfWhatIsSmall) {
+    QWidget window;
+    MessageLabel label("L", QRect(0, 0, 73, 57), &window);
+    for (const char* caption :
+         {"short", "a <message> that is much too long to be written large in so small a place"}) {
+        label.SetCaption(caption);
+        QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&label, &rest);
+        EXPECT_EQ(AsRead(QToolTip::text()), caption == QString("short") ? QString() : caption);
     }
 }
 
@@ -63,6 +77,7 @@ struct InputGuards : testing::Test {
 
 TEST_F(InputGuards, AHeldKeyStaysInItsWindowUntilItIsPressedAnew) {
     Key(&first, QEvent::KeyPress, 10);
+    Key(&other, QEvent::KeyPress, 15, true); // which the key opened
     Key(&first, QEvent::KeyPress, 20, true);
     Key(&second, QEvent::KeyPress, 30, true);
     EXPECT_EQ(first.text() + '|' + second.text(), "xx|x") << "within a window a key repeats";
@@ -96,6 +111,10 @@ TEST(AccessibleNames, SayWhatAControlIsAndDoWhatItDoes) {
     QWidget window;
     CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
     EXPECT_EQ(of(&label)->role(), QAccessible::StaticText);
+    ChoiceBox box("B", "Race", {"a", "b"}, &window);
+    for (int child = of(&box)->childCount() - 1; child >= 0; --child) {
+        EXPECT_EQ(of(&box)->indexOfChild(of(&box)->child(child)), child);
+    }
     const QSignalSpy clicks(&label, &CaptionLabel::Clicked);
     label.MakeClickable();
     EXPECT_EQ(of(&label)->role(), QAccessible::Button);
