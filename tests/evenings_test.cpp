@@ -74,7 +74,9 @@ Seen See(const GameWindow& game) {
     Seen seen{{"The focus", {{"is on", focus.isEmpty() ? "nothing" : focus}}},
               {"The folder", {{"has", QDir().entryList(QDir::Files | QDir::Hidden).join(", ")}}}};
     for (QWidget* control : QApplication::allWidgets()) {
-        const QString name = control->objectName();
+        const auto* said = QAccessible::queryAccessibleInterface(control);
+        const QString own = control->objectName();
+        const QString name = own.isEmpty() ? said->text(QAccessible::Name) : own;
         const QWidget* window = control->window();
         const bool isBeside = window != control && window != &game.window;
         if (control->isVisible() && !name.isEmpty() && !name.startsWith("qt_")) {
