@@ -78,6 +78,13 @@ const std::vector<ValueCase> ValueCases{
          game.Planet(0).Owner = 10;
      },
      {5, 7, 3, 8, 28, 28, 30, 30}},
+    {"discounts, up to the base cost",
+     [](Game& game, PlayerRecord&) {
+         for (const int planet : {0, 1, 2}) {
+             game.Planet(planet).Resources = 99;
+         }
+     },
+     {298, 5, 4, 300, 0, 0, 0, 30}},
     {"modifiers, also below 0",
      [](Game& game, PlayerRecord& four) {
          game.RedModifier = 18;
