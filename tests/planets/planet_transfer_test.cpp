@@ -33,6 +33,10 @@ TEST(PlanetTransfer, MovesAPlanetBetweenThePackedLists) {
     TransferPlanet(state, 0, NeutralOwner);
     EXPECT_EQ(List(state, 10), std::vector{19});
     EXPECT_EQ(List(state, NeutralOwner).back(), 0) << "appended, not sorted in";
+    SetPlanets(state.Game, std::vector<PlanetRecord>(MaxPlanets));
+    state.View.BoardPlayer = NeutralOwner;
+    TransferPlanet(state, 7, 4);
+    EXPECT_EQ(List(state, NeutralOwner).size(), 100U);
 }
 
 } // namespace
