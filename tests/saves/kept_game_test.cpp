@@ -1,3 +1,4 @@
+#include "planets/read_file.h"
 #include "saves/kept_files.h"
 #include "saves/kept_game.h"
 #include "tests/game_window.h"
@@ -100,6 +101,8 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
     EXPECT_EQ(Keep(9), "\"autosave-1.ksm\" cannot be renamed to \"autosave-2.ksm\": "
                        "Input/output error");
     EXPECT_EQ(Keep(9), "") << "what failed is tried again";
+    kept.Keep(GameOf(9, std::string(LargestFile, 'n')));
+    EXPECT_FALSE(kept.LastOutcome());
 }
 
 TEST_F(KeptGames, StayOutOfWhatCannotBeRead) {
