@@ -78,9 +78,10 @@ Seen See(const GameWindow& game) {
         const QString own = control->objectName();
         const QString name = own.isEmpty() ? said->text(QAccessible::Name) : own;
         const QWidget* window = control->window();
-        const bool isBeside = window != control && window != &game.window;
-        if (control->isVisible() && !name.isEmpty() && !name.startsWith("qt_")) {
-            seen[isBeside ? window->objectName() + ' ' + name : name] = FacetsOf(*control, game);
+        const QString place =
+            window == control || window == &game.window ? QString() : window->objectName() + ' ';
+        if (control->isVisible() && !name.isEmpty() && !name.startsWith("qt_") && place != " ") {
+            seen[place + name] = FacetsOf(*control, game);
         }
     }
     for (const QAction* item : game.window.findChildren<QAction*>()) {
