@@ -101,6 +101,8 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
     EXPECT_EQ(Keep(9), "\"autosave-1.ksm\" cannot be renamed to \"autosave-2.ksm\": "
                        "Input/output error");
     EXPECT_EQ(Keep(9), "") << "what failed is tried again";
+    SetFault({.Call = "write", .Number = 1});
+    EXPECT_EQ(Keep(9), "Input/output error");
     kept.Keep(GameOf(9, std::string(LargestFile, 'n')));
     EXPECT_FALSE(kept.LastOutcome());
 }
