@@ -46,9 +46,6 @@ struct GameWindow {
         EXPECT_NE(control, nullptr) << name;
         return control;
     }
-    std::string Caption(const char* array, int index) const {
-        return Find(array, index)->Caption().toStdString();
-    }
 
     void Click(QWidget* control) const {
         QTest::mouseClick(PlatformWindow(control), Qt::LeftButton, {}, Centre(control));
@@ -82,9 +79,8 @@ struct GameWindow {
     void MoveOver(const QWidget* target) const {
         QTest::mouseMove(PlatformWindow(target), Centre(target));
     }
-    void DropOn(const QWidget* target) const { DropOn(target, target->rect().center()); }
-    void DropOn(const QWidget* target, QPoint place) const {
-        QTest::mouseRelease(PlatformWindow(target), Qt::LeftButton, {}, PlaceIn(target, place));
+    void DropOn(const QWidget* target) const {
+        QTest::mouseRelease(PlatformWindow(target), Qt::LeftButton, {}, Centre(target));
     }
     void Drag(int row, int owner) const {
         Press(row);
@@ -102,7 +98,6 @@ struct GameWindow {
         };
         ASSERT_TRUE(QTest::qWaitFor(isActive));
     }
-    void Focus(const char* control) const { Find<QWidget>(control)->setFocus(); }
     /// In whichever window has the focus.
     static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);

@@ -51,7 +51,8 @@ TEST(PlanetBoard, OnlyWhatIsStillHeldCanBeSetDown) {
         {"a release", [](GameWindow& board) { QTest::mouseClick(board.Owner(5), Qt::LeftButton); },
          true, true},
         {"the scroll bar", [](GameWindow& board) { board.Move("PlanetScroller", 3); }, false, true},
-        {"the focus", [](GameWindow& board) { board.Focus("PlayerName(1)"); }, false, true}};
+        {"the focus", [](GameWindow& board) { board.Find("PlayerName(1)")->setFocus(); }, false,
+         true}};
     for (const auto& [what, happens, endsDrag, endsCarrying] : rows) {
         SCOPED_TRACE(what);
         for (const bool byMouse : {true, false}) {
