@@ -32,7 +32,8 @@ QString Colours(const QWidget& control) {
     return text == "as usual on as usual" ? QString() : text;
 }
 
-/// In its window, of a window from the main one, and of that from the middle of the screen.
+/// In its window, of a window from the main one, and of that from the middle of the screen; with
+/// its size, where no font or style decides on that.
 QString PlaceOf(const QWidget& control, const Korvane& game) {
     const QWidget* window = control.window();
     const QWidget* origin = window == &game ? game.centralWidget() : window;
@@ -40,7 +41,11 @@ QString PlaceOf(const QWidget& control, const Korvane& game) {
         &control == &game    ? game.geometry().center() - game.screen()->geometry().center()
         : control.isWindow() ? control.pos() - game.pos()
                              : control.mapToGlobal(QPoint()) - origin->mapToGlobal(QPoint());
-    return QString("%1,%2").arg(place.x()).arg(place.y());
+    const QString at = QString("%1,%2").arg(place.x()).arg(place.y());
+    const QStringList fitted{"", "InvasionPlanet", "InvasionResInf", "DragOutline"};
+    const bool isFitted =
+        control.isWindow() || fitted.contains(control.objectName().section('(', 0, 0));
+    return isFitted ? at : at + QString(" %1x%2").arg(control.width()).arg(control.height());
 }
 
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
