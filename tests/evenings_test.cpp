@@ -61,6 +61,7 @@ Facets FacetsOf(QWidget& control, const GameWindow& game) {
             {"flags", isFramed ? QString::number(control.windowFlags(), 16) : ""},
             {"icon",
              icon.isNull() ? "" : icon.pixmap(16).toImage().pixelColor(8, 8).name(QColor::HexArgb)},
+            {"is", QVariant::fromValue(said->role()).toString()},
             {"name", name},
             {"says", says},
             {"tip", control.toolTip() == says ? QString() : control.toolTip()},
