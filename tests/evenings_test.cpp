@@ -236,6 +236,7 @@ protected:
 TEST_F(Evenings, Setup) { ExpectAsTold("setup"); }
 TEST_F(Evenings, Play) { ExpectAsTold("play"); }
 TEST_F(Evenings, Planets) { ExpectAsTold("planets"); }
+TEST_F(Evenings, Ten) { ExpectAsTold("ten"); }
 TEST_F(Evenings, Windows) { ExpectAsTold("windows"); }
 
 } // namespace
