@@ -26,8 +26,12 @@ TEST(Dialogs, ATabOrALineFeedInANameBecomesABlankAndTheShortNameCountsCharacters
 TEST(Dialogs, NotesKeepTheirLinesAndBlanks) {
     const GameWindow game;
     game.Choose("Notes");
-    game.Find<QPlainTextEdit>("Aant")->insertPlainText(QString::fromUtf8("1\n2\u20283\u00A0"));
+    auto* notes = game.Find<QPlainTextEdit>("Aant");
+    notes->insertPlainText(QString::fromUtf8("1\n2\u20283\u00A0"));
     EXPECT_EQ(game.state.NotesText, "1\n2\n3\u00A0");
+    QGuiApplication::clipboard()->setText(QString(1001, 'w'));
+    notes->paste();
+    EXPECT_EQ(notes->wordWrapMode(), QTextOption::WrapAnywhere) << "or it takes minutes";
 }
 
 using SavedGames = SavesFolder;
