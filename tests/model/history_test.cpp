@@ -1,6 +1,8 @@
 #include "model/history.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace ksm {
 namespace {
@@ -38,40 +40,26 @@ struct Steps {
 };
 
 TEST(History, WhatIsOpenedIsOneStepUntilItEnds) {
-    // Space docks; { } opens and ends a step, ~ goes on with the last one, < takes one back, >
-    // makes it again.
+    // A digit is a number of space docks; what the other signs do stands below.
     const std::pair<const char*, std::vector<int>> rows[]{
         {"2{324{56}}7", {7, 6, 4, 2, 1}}, // back where it began in between, and one within another
         {"{2}~3}{45}", {5, 3, 1}},
         {"{2}9~3}", {3, 9, 2, 1}},
         {"{2<34}", {4, 1}},
         {"{2<>3}", {3, 2, 1}},
-        {"{2}!~3}", {3, 2}}}; // ! begins another game
+        {"{2}!~3}", {3, 2}}};
     for (const auto& [deeds, docks] : rows) {
         Steps steps;
+        const std::map<char, std::function<void()>> verbs{
+            {'{', [&] { steps.history.BeginStep(); }},
+            {'}', [&] { steps.history.EndStep(); }},
+            {'~', [&] { steps.history.ResumeStep(); }},
+            {'!', [&] { steps.history.Restart(steps.state.Game); }},
+            {'<', [&] { steps.history.Undo(steps.state); }},
+            {'>', [&] { steps.history.Redo(steps.state); }}};
         for (const char deed : std::string_view(deeds)) {
-            switch (deed) {
-            case '{':
-                steps.history.BeginStep();
-                break;
-            case '}':
-                steps.history.EndStep();
-                break;
-            case '~':
-                steps.history.ResumeStep();
-                break;
-            case '<':
-                steps.history.Undo(steps.state);
-                break;
-            case '!':
-                steps.history.Restart(steps.state.Game);
-                break;
-            case '>':
-                steps.history.Redo(steps.state);
-                break;
-            default:
-                steps.Docks(deed - '0');
-            }
+            const auto verb = verbs.find(deed);
+            verb == verbs.end() ? steps.Docks(deed - '0') : verb->second();
         }
         EXPECT_FALSE(steps.history.CanRedo());
         EXPECT_EQ(steps.Back(), docks) << deeds;
