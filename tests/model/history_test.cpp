@@ -106,7 +106,9 @@ TEST(History, ASelectionBelongsToTheStepThatBeganItButNotToALoad) {
         << "what else is done while something is selected is a step";
     EXPECT_FALSE(steps.history.CanRedo());
     steps.history.Restart(steps.state.Game);
-    EXPECT_EQ(steps.history.UndoText() + steps.history.RedoText(), "");
+    steps.Select(TradeMode::RemoveFirst, 3);
+    steps.Select(TradeMode::RemovePartner, 4);
+    EXPECT_EQ(steps.history.UndoTexts(10), std::vector<std::string>{"Remove"});
 }
 
 } // namespace
