@@ -65,6 +65,7 @@ const std::array<const char*, 3> Damages[]{
     {"\"Enviro\": false", "\"Enviro\": true", "Players[0].PellamToolsEnabled contradicts"},
     {"\"MicroEnabled\": true", "\"MicroEnabled\": false", "Players[2].MicroEnabled contradicts"},
     {"\"TradeRing\": 4", "\"TradeRing\": 5", "Players[0].TradeRing is one without"},
+    {"\"TradeRing\": 10", "\"TradeRing\": 9", "Players[9].TradeRing is one without"},
     {"\"Width\": 3", "\"Width\": 2", "TradeStrokes does not hold one line for each agreement"},
     {"\"BoardPlayer\": 3", "\"BoardPlayer\": 5", "BoardPlayer is no owner that the board can show"},
     {"\"StartTime\": 1795633200000", "\"StartTime\": 0",
