@@ -28,6 +28,8 @@ TEST(DescribeChange, SaysInAFewWordsWhatWasDone) {
         {[](G& g) { ChooseRace(g, 4, Race::Altheran); }, "Altheran, Dora"},
         {[](G& g) { g.Planet(1).Owner = 10; }, "Caldry to Player 10"},
         {[](G& g) { g.Player(4).Enviro = g.Player(4).MicroEnabled = true; }, "Enviro Comp., Dora"},
+        {[](G& g) { g.Player(4).PellamTools = true; }, "Pellam Tools, Dora"},
+        {[](G& g) { g.Player(4).Micro = true; }, "Micro Tech., Dora"},
         {[](G& g) { g.Player(10).SpaceDocks = 0; }, "Space Docks, Player 10"},
         {[](G& g) { SetName(g, 4, "Ada", "Dor"); }, "name, Ada"},
         {[](G& g) { SetColours(g, 4, {}); }, "colour, Dora"},
