@@ -12,8 +12,8 @@ void CloseFirstWindow() {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         const auto* box = qobject_cast<const QMessageBox*>(window);
         said << (box ? box->text() : window->isVisible() ? window->windowTitle() : QString());
-        if (window->isVisible() &&
-            window->windowIcon().pixmap(16).toImage().pixelColor(8, 8).alpha() == 0) {
+        const QImage icon = window->windowIcon().pixmap(16).toImage();
+        if (window->isVisible() && (icon.isNull() || icon.pixelColor(8, 8).alpha() == 0)) {
             said << " without an icon";
         }
     }
