@@ -1,5 +1,6 @@
 #include "controls/accessible_names.h"
 #include "controls/choice_box.h"
+#include "controls/fitting_font.h"
 #include "controls/input_guard.h"
 #include "controls/message_label.h"
 #include "controls/spin_bar.h"
@@ -13,29 +14,32 @@
 namespace ksm {
 namespace {
 
-TEST(CaptionLabel, TellsAllOfWhatIsTooWideAsTyped) {
+/// What is told where the mouse rests on it.
+QString Tip(QWidget& control) {
+    QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), control.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&control, &rest);
+    return AsRead(QToolTip::text());
+}
+
+TEST(Labels, TellAllOfWhatIsTooWideOrSmallAsTyped) {
     QWidget window;
     CaptionLabel label("L", QRect(0, 0, 60, 17), &window);
     label.SetExplanation([] { return "1 < 2"; });
-    for (const char* caption : {"<b>", "<b>Anna</b> the Second"}) {
-        label.SetCaption(caption);
-        QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
-        QApplication::sendEvent(&label, &rest);
-        const QString whole = label.Caption() == "<b>" ? QString() : label.Caption() + '\n';
-        EXPECT_EQ(AsRead(QToolTip::text()), whole + "1 < 2");
+    MessageLabel message("M", QRect(0, 0, 73, 57), &window);
+    const QString large = "<b>Anna</b> the Second and many others, and all that they have done";
+    for (const QString& text : {QString("<b>"), large}) {
+        label.SetCaption(text);
+        message.SetCaption(text);
+        EXPECT_EQ(Tip(message), text == large ? large : QString());
+        EXPECT_EQ(Tip(label), text == large ? large + "\n1 < 2" : "1 < 2");
     }
 }
 
-TEST(MessageLabel, TellsAllOfWhatIsSmall) {
-    QWidget window;
-    MessageLabel label("L", QRect(0, 0, 73, 57), &window);
-    for (const char* caption :
-         {"short", "a <message> that is much too long to be written large in so small a place"}) {
-        label.SetCaption(caption);
-        QHelpEvent rest(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
-        QApplication::sendEvent(&label, &rest);
-        EXPECT_EQ(AsRead(QToolTip::text()), caption == QString("short") ? QString() : caption);
-    }
+TEST(FittingFont, StaysBoldAndSlanted) {
+    QFont font = BoldFont();
+    font.setItalic(true);
+    const QFont fitting = FittingFont(font, 8, "far too long for so small a place", 20);
+    EXPECT_TRUE(fitting.bold() && fitting.italic() && fitting.pixelSize() == 8);
 }
 
 TEST(SpinBar, StepsForEachHalfOfADoubleClick) {
