@@ -212,9 +212,8 @@ QImage Opened(const char* item, const char* form) {
         EXPECT_TRUE(QFile(name).open(QIODevice::WriteOnly));
     }
     Evening evening(2);
-    evening.state.NotesText =
-        "Ada owes Bo 5.\n\tOne\tTwo\nA letter by letter wrap would show here.\n" +
-        std::string(1001, '!');
+    evening.state.NotesText = std::string(1001, '!') + "\nAda owes Bo 5.\n\tOne\tTwo\n"
+                                                       "A letter by letter wrap would show here.";
     evening.Choose(item);
     QDir::setCurrent(before);
     return Grab(*evening.Find<QWidget>(form));
