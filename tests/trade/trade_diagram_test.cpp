@@ -21,11 +21,13 @@ TEST(TradeDiagram, DrawsAgreementsRowByRowAndTheForbiddenPairOnTop) {
     Game game;                    // of six
     game.Player(8).TradeRing = 9; // hidden, and left where it was
     SetColours(game, 3, {.Back = colour::Pink, .Text = colour::Black});
-    game.Cell(3, 2) = game.Cell(1, 8) = Agreement;
+    game.Cell(3, 2) = game.Cell(1, 8) = game.Cell(2, 10) = game.Cell(10, 8) = Agreement;
     game.IndepFirst = 2;
     RedrawTradeDiagram(game);
     const Strokes agreements{{{28, 97}, {108, 165}, colour::Orange, 3},
-                             {{156, 29}, {76, 29}, colour::Pink, 3}};
+                             {{76, 29}, {44, 141}, colour::White, 3},
+                             {{156, 29}, {76, 29}, colour::Pink, 3},
+                             {{44, 141}, {108, 165}, colour::Red, 3}};
     EXPECT_EQ(game.TradeStrokes, agreements) << "half a pair is not marked";
 
     game.IndepSecond = 6;
