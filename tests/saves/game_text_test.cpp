@@ -47,6 +47,7 @@ const std::array<const char*, 3> Damages[]{
     // Members.
     {"\"StartTime\": ", "\"Start\": ", "Game.StartTime is missing"},
     {"\"NumPlayers\": 4", "\"NumPlayers\": 4, \"Zeal\": 1", "Game.Zeal is unknown"},
+    {"\"Format\"", "\"Zeal\": 1, \"Format\"", "Zeal is unknown"},
     // Types and ranges.
     {"\"Named\": true", "\"Named\": 1", "Players[2].Named is neither true nor false"},
     {"\"NumPlayers\": 4", "\"NumPlayers\": 11", "NumPlayers is not a whole number from 2 to 10"},
