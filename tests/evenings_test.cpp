@@ -48,6 +48,12 @@ QString PlaceOf(const QWidget& control, const Korvane& game) {
     return isFitted ? at : at + QString(" %1x%2").arg(control.width()).arg(control.height());
 }
 
+/// "3 of 2 to 10"
+QString ValueOf(const QAccessibleValueInterface& bar) {
+    return bar.currentValue().toString() + " of " + bar.minimumValue().toString() + " to " +
+           bar.maximumValue().toString();
+}
+
 Facets FacetsOf(QWidget& control, const GameWindow& game) {
     auto* said = QAccessible::queryAccessibleInterface(&control);
     const auto* value = said->valueInterface();
@@ -65,7 +71,7 @@ Facets FacetsOf(QWidget& control, const GameWindow& game) {
             {"name", name},
             {"says", says},
             {"tip", control.toolTip() == says ? QString() : control.toolTip()},
-            {"value", value          ? value->currentValue().toString()
+            {"value", value          ? ValueOf(*value)
                       : text == name ? ""
                                      : text},
             {"colours", Colours(control)},
