@@ -108,9 +108,7 @@ Seen See(const GameWindow& game) {
 
 /// A line for each control that is not as it was last seen, and which ones came back or went.
 QStringList New(Seen& known, const Seen& before, const Seen& now) {
-    QStringList lines;
-    QStringList back;
-    QStringList gone;
+    QStringList lines, back, gone;
     for (const auto& [control, facets] : now) {
         QString line;
         Facets& old = known[control];
@@ -143,10 +141,7 @@ void Do(GameWindow& game, const QString& deed) {
     const auto reader = [&] { return QAccessible::queryAccessibleInterface(control()); };
     const std::map<QString, std::function<void()>> verbs{
         {"click", [&] { game.Click(name); }},
-        {"rightclick",
-         [&] {
-             QTest::mouseClick(PlatformWindow(control()), Qt::RightButton, {}, Centre(control()));
-         }},
+        {"rightclick", [&] { game.Click(control(), Qt::RightButton); }},
         {"choose", [&] { game.Choose(name); }},
         {"move", [&] { game.Move(name, with.toInt()); }},
         {"shift", [&] { game.window.move(game.window.pos() + QPoint(name.toInt(), 0)); }},

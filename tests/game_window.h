@@ -47,8 +47,8 @@ struct GameWindow {
         return control;
     }
 
-    void Click(QWidget* control) const {
-        QTest::mouseClick(PlatformWindow(control), Qt::LeftButton, {}, Centre(control));
+    void Click(QWidget* control, Qt::MouseButton button = Qt::LeftButton) const {
+        QTest::mouseClick(PlatformWindow(control), button, {}, Centre(control));
     }
     void Click(const char* name, int index = Single) const { Click(Find<QWidget>(name, index)); }
     void Choose(const char* menuItem) const { Find<QAction>(menuItem)->trigger(); }
