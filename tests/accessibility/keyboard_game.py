@@ -4,6 +4,7 @@ Usage: keyboard_game.py PROGRAM, in an empty folder, on a display with a window 
 """
 
 import os
+import subprocess
 import sys
 
 import pyatspi
@@ -289,6 +290,17 @@ def roll_dice(game):
     game.press("alt+F4")
 
 
+def move_the_window(game):
+    def place():
+        window = game.window("Korvane Astrell Manager II").queryComponent()
+        return tuple(window.getPosition(pyatspi.DESKTOP_COORDS))
+    before = place()
+    subprocess.run(["xdotool", "getactivewindow", "windowmove", "30", "40"], check=True)
+    until(lambda: place() != before, 3)
+    until(lambda: False, 0.5)
+    check(place() != before, "the window stays where it is moved", place())
+
+
 def main():
     enable_accessibility()
     game = Program([sys.argv[1]])
@@ -297,7 +309,8 @@ def main():
     try:
         until(lambda: has(game.window("Korvane Astrell Manager II"), pyatspi.STATE_ACTIVE))
         for step in (set_up, check_play_order, name_a_player, tick_a_box, build_a_dock,
-                     give_a_planet, agree, explain, pass_a_law, save_and_load, visit_windows):
+                     give_a_planet, agree, explain, pass_a_law, save_and_load, visit_windows,
+                     move_the_window):
             print(f"-- {step.__name__.replace('_', ' ')}")
             step(game)
         game.press("ctrl+x")
