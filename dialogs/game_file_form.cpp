@@ -72,9 +72,6 @@ void GameFileForm::BuildControls() {
     auto* cancel = new QPushButton("Cancel", this);
     NameAndPlace(*cancel, "Cance", CancelPlace);
 
-    setTabOrder(confirm, cancel);
-    setTabOrder(cancel, File1);
-    setTabOrder(File1, FileNam);
     connect(confirm, &QPushButton::clicked, this, &GameFileForm::Confirm);
     connect(cancel, &QPushButton::clicked, this, &GameFileForm::Cance_Click);
     // A file is picked by the mouse or with the arrow keys.
