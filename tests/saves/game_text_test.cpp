@@ -1,4 +1,5 @@
 #include "tests/saves/sample_game.h"
+#include "trade/trade_diagram.h"
 
 #include <QFile>
 
@@ -31,6 +32,14 @@ TEST(GameText, WhatAGameCanHoldCanBeSavedAndNoMore) {
         game.Game.YellowModifier = game.Game.RedModifier = modifier;
         EXPECT_TRUE(ReadGame(*WriteGame(game)));
     }
+    game.Game.IndepFirst = game.Game.IndepSecond = 1; // a pair that forbids nothing
+    for (int maker = 1; maker <= MaxPlayers; ++maker) {
+        for (int partner = 1; partner <= MaxPlayers; ++partner) {
+            game.Game.Cell(maker, partner) = maker < partner ? Agreement : NoAgreement;
+        }
+    }
+    RedrawTradeDiagram(game.Game);
+    EXPECT_EQ(ReadGame(*WriteGame(game))->Game.TradeCount, 45);
     const QByteArray marked =
         QByteArray(*WriteGame(SampleGame())).replace("line 1", "\\uFEFFline 1");
     EXPECT_TRUE(*ReadGame(marked) == SampleGame()) << "a byte order mark is no letter";
