@@ -14,7 +14,8 @@ StartDisplay() {
     trap 'exit 143' TERM
     Scratch=$(mktemp -d)
 
-    Xvfb -displayfd 3 -screen 0 1920x1200x24 -nolisten tcp \
+    # Without -noreset it starts anew when the first client leaves, and refuses the next meanwhile.
+    Xvfb -displayfd 3 -noreset -screen 0 1920x1200x24 -nolisten tcp \
         3>"$Scratch/display" 2>"$Scratch/xvfb.log" &
     local server=$!
     Await "$server" test -s "$Scratch/display" || Fail "Xvfb does not start:" "$Scratch/xvfb.log"
