@@ -106,6 +106,7 @@ TEST_F(KeptGames, KeepTheThreeThatWereStartedLast) {
     EXPECT_EQ(Keep(9), "") << "what failed is tried again";
     SetFault({.Call = "write", .Number = 1});
     EXPECT_EQ(Keep(9), "Input/output error");
+    SetFault({});
     kept.Keep(GameOf(9, std::string(LargestFile, 'n')));
     EXPECT_FALSE(kept.LastOutcome());
 }
